@@ -1,0 +1,67 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "platform/DateTime.h"
+
+// File services of the platform. Paths are full paths as text; `/` and `\` are both
+// separators, and a path names the same file whatever the case of its components.
+namespace platform {
+
+void SetAppFolder(const std::string& folder);
+const std::string& AppFolder();
+std::string ProgramFileName();  // the program's own file name without extension
+void SetProgramFileName(const std::string& name);
+
+std::filesystem::path ResolvePath(const std::string& path);
+bool FileExists(const std::string& path);    // a regular file; folders do not count
+bool FolderExists(const std::string& path);
+bool WildcardMatch(std::string_view name, std::string_view pattern);  // * and ?, no case
+
+void MkDir(const std::string& path);
+void RmDir(const std::string& path);
+void Kill(const std::string& pattern);  // wild cards in the file name
+void FileCopy(const std::string& source, const std::string& target);
+void Name(const std::string& oldPath, const std::string& newPath);
+std::int64_t FileLen(const std::string& path);
+std::vector<std::string> Dir(const std::string& pattern, bool folders = false);
+
+enum class OpenMode { Input, Output, Append, Random };
+
+int FreeFile();
+void Open(int fileNo, const std::string& path, OpenMode mode, int recordLength = 128);
+void Close(int fileNo);
+void CloseAll();
+// After a run-time failure: closes every file and drops sequential output not yet in place.
+void AbandonAll();
+int OpenFileCount();
+bool Eof(int fileNo);
+std::int64_t Lof(int fileNo);
+
+// One value of a delimited line: text, number, flag or date.
+using Field = std::variant<std::string, double, bool, DateTime>;
+inline Field Text(std::string s) { return Field(std::move(s)); }
+
+void WriteFields(int fileNo, std::initializer_list<Field> fields);
+void WriteFields(int fileNo, const std::vector<Field>& fields);
+void PrintLine(int fileNo, std::string_view text);
+
+std::string InputString(int fileNo);
+double InputNumber(int fileNo);
+long InputLong(int fileNo);
+bool InputBool(int fileNo);
+DateTime InputDate(int fileNo);
+std::string LineInput(int fileNo);
+
+std::string GetRecord(int fileNo, long recordNo);
+void PutRecord(int fileNo, long recordNo, std::string_view bytes);
+
+std::string FormatNumber(double value);  // plain decimal as the delimited write puts it
+
+}  // namespace platform

@@ -1,0 +1,138 @@
+#include <gtest/gtest.h>
+
+#include "platform/Files.h"
+#include "platform/Records.h"
+#include "platform/RuntimeError.h"
+#include "support/TestFolder.h"
+
+using namespace platform;
+using testing_support::TestFolder;
+
+namespace {
+
+std::string P(const std::string& rel) { return AppFolder() + rel; }
+
+int ErrorOf(const std::function<void()>& f) {
+    try {
+        f();
+    } catch (const RuntimeError& e) {
+        return e.Number();
+    }
+    return 0;
+}
+
+}  // namespace
+
+TEST(Files, DelimitedWriteGivesQuotedTextBareNumbersFlagsAndDates) {
+    TestFolder folder;
+    int n = FreeFile();
+    Open(n, P("\\out.txt"), OpenMode::Output);
+    WriteFields(n, {Field(8.0)});
+    WriteFields(n, {Text("")});
+    WriteFields(n, {Text("A, B"), Field(-1.0), Field(true), Field(false), Field(DateTime::FromYmd(2026, 2, 3))});
+    WriteFields(n, {Field(2.5)});
+    Close(n);
+    EXPECT_EQ(folder.Read("out.txt"), "8\r\n\"\"\r\n\"A, B\",-1,#TRUE#,#FALSE#,#2026-02-03#\r\n2.5\r\n");
+}
+
+TEST(Files, DelimitedInputReadsQuotedAndBareValues) {
+    TestFolder folder;
+    folder.Write("in.txt", "\"Sick Day\",7\r\nVacation Time, 12 ,#TRUE#\r\n,#2026-02-03#\r\n");
+    int n = FreeFile();
+    Open(n, P("/IN.TXT"), OpenMode::Input);
+    EXPECT_EQ(InputString(n), "Sick Day");
+    EXPECT_EQ(InputNumber(n), 7);
+    EXPECT_EQ(InputString(n), "Vacation Time");
+    EXPECT_EQ(InputNumber(n), 12);
+    EXPECT_TRUE(InputBool(n));
+    EXPECT_EQ(InputNumber(n), 0);  // an empty number reads as 0
+    EXPECT_EQ(InputDate(n), DateTime::FromYmd(2026, 2, 3));
+    EXPECT_TRUE(Eof(n));
+    EXPECT_EQ(ErrorOf([&] { InputString(n); }), err::InputPastEnd);
+    CloseAll();
+}
+
+TEST(Files, WrongTypeOrMissingFileIsTheRunTimeFailure) {
+    TestFolder folder;
+    folder.Write("bad.txt", "\"eight\"\r\n");
+    int n = FreeFile();
+    Open(n, P("/bad.txt"), OpenMode::Input);
+    EXPECT_EQ(ErrorOf([&] { InputNumber(n); }), err::TypeMismatch);
+    CloseAll();
+    EXPECT_EQ(ErrorOf([&] { Open(FreeFile(), P("/none.txt"), OpenMode::Input); }), err::FileNotFound);
+    EXPECT_EQ(ErrorOf([&] { Open(FreeFile(), P("/nofolder/x.txt"), OpenMode::Output); }), err::PathNotFound);
+}
+
+TEST(Files, OutputReachesItsNameOnlyWhenClosed) {
+    TestFolder folder;
+    folder.Write("day.txt", "old\r\n");
+    int n = FreeFile();
+    Open(n, P("/day.txt"), OpenMode::Output);
+    PrintLine(n, "new");
+    EXPECT_EQ(folder.Read("day.txt"), "old\r\n");
+    Close(n);
+    EXPECT_EQ(folder.Read("day.txt"), "new\r\n");
+    // A run-time failure drops what was not yet in place.
+    Open(n, P("/day.txt"), OpenMode::Output);
+    PrintLine(n, "torn");
+    AbandonAll();
+    EXPECT_EQ(folder.Read("day.txt"), "new\r\n");
+    EXPECT_EQ(Dir(P("/*.*")).size(), 1u);
+}
+
+TEST(Files, OutputReplacesAHardLinkRatherThanWritingThroughIt) {
+    TestFolder folder;
+    folder.Write("a.txt", "shared\r\n");
+    std::filesystem::create_hard_link(folder.Path() / "a.txt", folder.Path() / "b.txt");
+    int n = FreeFile();
+    Open(n, P("/a.txt"), OpenMode::Output);
+    PrintLine(n, "changed");
+    Close(n);
+    EXPECT_EQ(folder.Read("b.txt"), "shared\r\n");
+}
+
+TEST(Files, PathsMatchWithoutRegardToCaseOrSeparator) {
+    TestFolder folder;
+    folder.Write("AuxFiles/A100/AuxFile0/x.txt", "1");
+    EXPECT_TRUE(FileExists(P("/Auxfiles/a100\\AUXFILE0/X.txt")));
+    EXPECT_TRUE(FolderExists(P("\\auxfiles")));
+    EXPECT_FALSE(FileExists(P("/Auxfiles")));
+    EXPECT_EQ(ErrorOf([&] { MkDir(P("/auxfiles")); }), err::PathFileAccessError);
+    EXPECT_EQ(ErrorOf([&] { RmDir(P("/AUXFILES")); }), err::PathFileAccessError);  // not empty
+}
+
+TEST(Files, WildCardsListAndDelete) {
+    TestFolder folder;
+    folder.Write("T/1.txt", "");
+    folder.Write("T/2.TXT", "");
+    folder.Write("T/readme", "");
+    EXPECT_EQ(Dir(P("/T/*.txt")), (std::vector<std::string>{"1.txt", "2.TXT"}));
+    Kill(P("/T/*.*"));
+    EXPECT_TRUE(Dir(P("/T/*.*")).empty());
+    EXPECT_EQ(ErrorOf([&] { Kill(P("/T/*.*")); }), err::FileNotFound);
+}
+
+TEST(Files, RandomRecordsArePackedAndNumberedFromOne) {
+    TestFolder folder;
+    RecordWriter w;
+    w.Text("Smith", 8);
+    w.Int16(-2);
+    w.Int32(70000);
+    w.Date(DateTime::FromYmd(1899, 12, 31));
+    w.Currency(12345678);
+    ASSERT_EQ(w.Bytes().size(), 8u + 2 + 4 + 8 + 8);
+    int n = FreeFile();
+    Open(n, P("/rec.txt"), OpenMode::Random, 30);
+    PutRecord(n, 2, w.Bytes());
+    EXPECT_EQ(Lof(n), 60);
+    RecordReader r(GetRecord(n, 2));
+    EXPECT_EQ(r.Text(8), "Smith   ");
+    EXPECT_EQ(r.Int16(), -2);
+    EXPECT_EQ(r.Int32(), 70000);
+    EXPECT_EQ(r.Date().Serial(), 1.0);
+    EXPECT_EQ(r.Currency(), 12345678);
+    CloseAll();
+    std::string bytes = folder.Read("rec.txt");
+    EXPECT_EQ(bytes.substr(30, 10), std::string("Smith   \xFE\xFF", 10));
+    EXPECT_EQ(bytes.substr(0, 30), std::string(30, '\0'));
+}
