@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+// Every access to the data files goes through these routines. Paths are relative to the
+// program folder and begin with `/` or `\`. A file found missing is looked for below
+// Backup and silently restored, so a caller's test for a file is also its repair.
+
+// File numbers of the files opened last, as the open routines leave them.
+extern std::int32_t MainFileNo;
+extern std::int16_t SecondFileNo;
+extern std::int16_t TempFileNo;
+
+// Record lengths of the record files.
+constexpr int kCustomerRecordLength = 328;
+constexpr int kContractRecordLength = 386;
+constexpr int kCycleRecordLength = 69;
+constexpr int kProjectRecordLength = 297;
+constexpr int kTelCallRecordLength = 35;
+constexpr int kVendorRecordLength = 235;
+constexpr int kInventoryRecordLength = 124;
+constexpr int kServiceRecordLength = 72;
+constexpr int kCustomItemRecordLength = 70;
+
+std::string DataPath(const std::string& path);  // the program folder + path
+
+bool FindFile(const std::string& path);
+void CopyDataFile(const std::string& source, const std::string& target);
+std::int16_t CountRecords(const std::string& path, int recordLength);
+
+void OpenForInput(const std::string& path);
+void OpenForOutput(const std::string& path);
+void OpenForAppend(const std::string& path);  // closes every open file first
+void OpenRandom(const std::string& path, int recordLength);
+void OpenRandomSecond(const std::string& path, int recordLength);
+void OpenTemporaryFile(int recordLength);
+void OpenCustomerData();
+void OpenContractInfo();
+void OpenCycleInfo();
+void CloseAllFiles();
+
+void MakeFolder(const std::string& path);
+void DeleteFile(const std::string& path);  // closes every open file first; wild cards allowed
+void DeleteEverywhere(const std::string& path);
+void ReplaceWithTemporary(const std::string& path);
+void BackupDataFiles();
