@@ -10,7 +10,9 @@
 namespace platform {
 namespace {
 
-std::string YesNo(bool b) { return b ? "True" : "False"; }
+std::string YesNo(bool b) {
+    return b ? "True" : "False";
+}
 
 bool StartsWithNoCase(const std::string& text, const std::string& prefix) {
     if (prefix.size() > text.size()) return false;
@@ -25,7 +27,8 @@ const std::string kEmpty;
 
 bool LessNoCase(const std::string& a, const std::string& b) {
     return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
-        return std::tolower(static_cast<unsigned char>(x)) < std::tolower(static_cast<unsigned char>(y));
+        return std::tolower(static_cast<unsigned char>(x)) <
+               std::tolower(static_cast<unsigned char>(y));
     });
 }
 
@@ -33,23 +36,40 @@ bool LessNoCase(const std::string& a, const std::string& b) {
 
 const char* TypeName(ControlType type) {
     switch (type) {
-        case ControlType::CommandButton: return "CommandButton";
-        case ControlType::Label: return "Label";
-        case ControlType::TextBox: return "TextBox";
-        case ControlType::CheckBox: return "CheckBox";
-        case ControlType::OptionButton: return "OptionButton";
-        case ControlType::Frame: return "Frame";
-        case ControlType::ListBox: return "ListBox";
-        case ControlType::ComboBox: return "ComboBox";
-        case ControlType::Grid: return "MSFlexGrid";
-        case ControlType::MonthView: return "MonthView";
-        case ControlType::DatePicker: return "DTPicker";
-        case ControlType::UpDown: return "UpDown";
-        case ControlType::Tab: return "SSTab";
-        case ControlType::ProgressBar: return "ProgressBar";
-        case ControlType::Image: return "Image";
-        case ControlType::Menu: return "Menu";
-        case ControlType::Timer: return "Timer";
+        case ControlType::CommandButton:
+            return "CommandButton";
+        case ControlType::Label:
+            return "Label";
+        case ControlType::TextBox:
+            return "TextBox";
+        case ControlType::CheckBox:
+            return "CheckBox";
+        case ControlType::OptionButton:
+            return "OptionButton";
+        case ControlType::Frame:
+            return "Frame";
+        case ControlType::ListBox:
+            return "ListBox";
+        case ControlType::ComboBox:
+            return "ComboBox";
+        case ControlType::Grid:
+            return "MSFlexGrid";
+        case ControlType::MonthView:
+            return "MonthView";
+        case ControlType::DatePicker:
+            return "DTPicker";
+        case ControlType::UpDown:
+            return "UpDown";
+        case ControlType::Tab:
+            return "SSTab";
+        case ControlType::ProgressBar:
+            return "ProgressBar";
+        case ControlType::Image:
+            return "Image";
+        case ControlType::Menu:
+            return "Menu";
+        case ControlType::Timer:
+            return "Timer";
     }
     return "Control";
 }
@@ -89,7 +109,9 @@ void Control::SetEnabled(bool enabled) {
     enabled_ = enabled;
     Notify();
 }
-void Control::SetTag(const std::string& tag) { tag_ = tag; }
+void Control::SetTag(const std::string& tag) {
+    tag_ = tag;
+}
 void Control::SetToolTipText(const std::string& text) {
     toolTip_ = text;
     Notify();
@@ -130,7 +152,9 @@ void Control::SetFocus() {
     Ui().FocusRequested(*this);
 }
 
-bool Control::HasFocus() const { return form_.FocusedControl() == this; }
+bool Control::HasFocus() const {
+    return form_.FocusedControl() == this;
+}
 
 bool Control::Raise(const std::string& event, EventArgs& args) {
     args.index = index_;
@@ -274,10 +298,9 @@ void ListControl::AddItem(const std::string& text, int index) {
     if (at < 0) {
         at = ListCount();
         if (sorted_) {
-            auto it = std::upper_bound(items_.begin(), items_.end(), text,
-                                       [](const std::string& t, const ListEntry& e) {
-                                           return LessNoCase(t, e.text);
-                                       });
+            auto it = std::upper_bound(
+                items_.begin(), items_.end(), text,
+                [](const std::string& t, const ListEntry& e) { return LessNoCase(t, e.text); });
             at = static_cast<int>(it - items_.begin());
         }
     }
@@ -290,8 +313,10 @@ void ListControl::AddItem(const std::string& text, int index) {
 void ListControl::RemoveItem(int index) {
     if (index < 0 || index >= ListCount()) platform::Raise(err::InvalidProcedureCall, Key());
     items_.erase(items_.begin() + index);
-    if (listIndex_ == index) listIndex_ = -1;
-    else if (listIndex_ > index) --listIndex_;
+    if (listIndex_ == index)
+        listIndex_ = -1;
+    else if (listIndex_ > index)
+        --listIndex_;
     Notify();
 }
 
@@ -368,8 +393,8 @@ void ListBox::SetSelected(int index, bool value) {
 }
 
 int ListBox::SelCount() const {
-    return static_cast<int>(std::count_if(items_.begin(), items_.end(),
-                                          [](const ListEntry& e) { return e.selected; }));
+    return static_cast<int>(
+        std::count_if(items_.begin(), items_.end(), [](const ListEntry& e) { return e.selected; }));
 }
 
 void ListBox::SetListIndex(int index) {
@@ -576,7 +601,8 @@ void Grid::SetFormatString(const std::string& format) {
         size_t start = 0;
         while (true) {
             size_t bar = s.find('|', start);
-            parts.push_back(s.substr(start, bar == std::string::npos ? std::string::npos : bar - start));
+            parts.push_back(
+                s.substr(start, bar == std::string::npos ? std::string::npos : bar - start));
             if (bar == std::string::npos) break;
             start = bar + 1;
         }
@@ -648,7 +674,9 @@ void Grid::SetCellForeColor(std::int32_t color) {
     Notify();
 }
 
-bool Grid::CellFontBold() const { return CellBold(row_, col_); }
+bool Grid::CellFontBold() const {
+    return CellBold(row_, col_);
+}
 
 void Grid::SetCellFontBold(bool bold) {
     At(row_, col_).bold = bold;
@@ -683,7 +711,8 @@ void Grid::AddItem(const std::string& tabSeparated, int index) {
     size_t start = 0;
     for (int c = 0; c < cols_; ++c) {
         size_t tab = tabSeparated.find('\t', start);
-        row[static_cast<size_t>(c)].text = tabSeparated.substr(start, tab == std::string::npos ? std::string::npos : tab - start);
+        row[static_cast<size_t>(c)].text =
+            tabSeparated.substr(start, tab == std::string::npos ? std::string::npos : tab - start);
         if (tab == std::string::npos) break;
         start = tab + 1;
     }
@@ -739,7 +768,8 @@ DateControl::DateControl(Form& form, ControlType type, std::string name, int ind
     : Control(form, type, std::move(name), index), value_(Today()) {}
 
 void DateControl::SetValue(DateTime value) {
-    if (value < minDate_ || value > maxDate_) platform::Raise(35775, Key());  // outside MinDate/MaxDate
+    if (value < minDate_ || value > maxDate_)
+        platform::Raise(35775, Key());  // outside MinDate/MaxDate
     if (value_ == value) return;
     value_ = value;
     Notify();

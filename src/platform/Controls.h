@@ -39,27 +39,29 @@ const char* TypeName(ControlType type);
 
 // Arguments of an event. Handlers may change keyAscii and cancel, which go back to the caller.
 struct EventArgs {
-    int index = -1;       // element of a control array, -1 for a single control
-    int keyAscii = 0;     // KeyPress
-    int keyCode = 0;      // KeyDown, KeyUp
-    int button = 0;       // MouseDown, MouseUp: 1 left, 2 right
+    int index = -1;    // element of a control array, -1 for a single control
+    int keyAscii = 0;  // KeyPress
+    int keyCode = 0;   // KeyDown, KeyUp
+    int button = 0;    // MouseDown, MouseUp: 1 left, 2 right
     int shift = 0;
-    double x = 0;         // twips
+    double x = 0;  // twips
     double y = 0;
-    int cancel = 0;       // QueryUnload, Unload
-    int unloadMode = 0;   // QueryUnload: 0 closed by the user, 1 by code
-    int previousTab = 0;  // Tab.Click
+    int cancel = 0;                   // QueryUnload, Unload
+    int unloadMode = 0;               // QueryUnload: 0 closed by the user, 1 by code
+    int previousTab = 0;              // Tab.Click
     class Control* source = nullptr;  // DragDrop
 };
 
 // Colours are kept as the platform's long values: &H00BBGGRR.
-constexpr std::int32_t Rgb(int r, int g, int b) { return r | (g << 8) | (b << 16); }
+constexpr std::int32_t Rgb(int r, int g, int b) {
+    return r | (g << 8) | (b << 16);
+}
 constexpr std::int32_t kWindowBackground = Rgb(240, 240, 240);
 constexpr std::int32_t kWindowText = 0;
 constexpr std::int32_t kWhite = Rgb(255, 255, 255);
 
 class Control {
-public:
+  public:
     Control(Form& form, ControlType type, std::string name, int index = -1);
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
@@ -122,10 +124,10 @@ public:
     using Observer = std::function<void(Control&)>;
     void SetObserver(Observer observer) { observer_ = std::move(observer); }
 
-protected:
+  protected:
     void Notify();
 
-private:
+  private:
     Form& form_;
     ControlType type_;
     std::string name_;
@@ -148,7 +150,7 @@ private:
 };
 
 class CommandButton : public Control {
-public:
+  public:
     CommandButton(Form& form, std::string name, int index = -1)
         : Control(form, ControlType::CommandButton, std::move(name), index) {}
     void Click() { Raise("Click"); }  // Value = True
@@ -157,13 +159,13 @@ public:
     bool IsCancel() const { return cancel_; }
     void SetCancel(bool value) { cancel_ = value; }
 
-private:
+  private:
     bool default_ = false;
     bool cancel_ = false;
 };
 
 class Label : public Control {
-public:
+  public:
     Label(Form& form, std::string name, int index = -1)
         : Control(form, ControlType::Label, std::move(name), index) {}
     bool WordWrap() const { return wordWrap_; }
@@ -171,19 +173,19 @@ public:
     bool BorderStyle() const { return border_; }
     void SetBorderStyle(bool value) { border_ = value; }
 
-private:
+  private:
     bool wordWrap_ = true;
     bool border_ = false;
 };
 
 class Frame : public Control {
-public:
+  public:
     Frame(Form& form, std::string name, int index = -1)
         : Control(form, ControlType::Frame, std::move(name), index) {}
 };
 
 class TextBox : public Control {
-public:
+  public:
     TextBox(Form& form, std::string name, int index = -1);
     const std::string& Text() const { return text_; }
     void SetText(const std::string& text);  // raises Change when the text differs
@@ -202,7 +204,7 @@ public:
     void TypeText(const std::string& text);
     std::map<std::string, std::string> Properties() const override;
 
-private:
+  private:
     std::string text_;
     int maxLength_ = 0;
     bool multiLine_ = false;
@@ -212,19 +214,19 @@ private:
 };
 
 class CheckBox : public Control {
-public:
+  public:
     CheckBox(Form& form, std::string name, int index = -1)
         : Control(form, ControlType::CheckBox, std::move(name), index) {}
     int Value() const { return value_; }  // 0 unchecked, 1 checked, 2 grayed
-    void SetValue(int value);              // raises Click when the value changes
+    void SetValue(int value);             // raises Click when the value changes
     std::map<std::string, std::string> Properties() const override;
 
-private:
+  private:
     int value_ = 0;
 };
 
 class OptionButton : public Control {
-public:
+  public:
     OptionButton(Form& form, std::string name, int index = -1)
         : Control(form, ControlType::OptionButton, std::move(name), index) {}
     bool Value() const { return value_; }
@@ -232,7 +234,7 @@ public:
     void SetValue(bool value);
     std::map<std::string, std::string> Properties() const override;
 
-private:
+  private:
     bool value_ = false;
 };
 
@@ -244,7 +246,7 @@ struct ListEntry {
 
 // Entries, ItemData and ListIndex, shared by lists and combo boxes.
 class ListControl : public Control {
-public:
+  public:
     using Control::Control;
     void AddItem(const std::string& text, int index = -1);
     void RemoveItem(int index);
@@ -262,7 +264,7 @@ public:
     const std::vector<ListEntry>& Items() const { return items_; }
     std::map<std::string, std::string> Properties() const override;
 
-protected:
+  protected:
     std::vector<ListEntry> items_;
     int listIndex_ = -1;
     int newIndex_ = -1;
@@ -270,7 +272,7 @@ protected:
 };
 
 class ListBox : public ListControl {
-public:
+  public:
     ListBox(Form& form, std::string name, int index = -1)
         : ListControl(form, ControlType::ListBox, std::move(name), index) {}
     std::string Text() const { return listIndex_ >= 0 ? List(listIndex_) : std::string(); }
@@ -283,13 +285,13 @@ public:
     int TopIndex() const { return topIndex_; }
     void SetTopIndex(int index);
 
-private:
+  private:
     bool multiSelect_ = false;
     int topIndex_ = 0;
 };
 
 class ComboBox : public ListControl {
-public:
+  public:
     enum Style { DropDownCombo = 0, SimpleCombo = 1, DropDownList = 2 };
     ComboBox(Form& form, std::string name, int index = -1)
         : ListControl(form, ControlType::ComboBox, std::move(name), index) {}
@@ -308,7 +310,7 @@ public:
     void TypeText(const std::string& text);
     std::map<std::string, std::string> Properties() const override;
 
-private:
+  private:
     int style_ = DropDownCombo;
     std::string text_;
     int selStart_ = 0;
@@ -316,7 +318,7 @@ private:
 };
 
 class Grid : public Control {
-public:
+  public:
     Grid(Form& form, std::string name, int index = -1);
     int Rows() const { return rows_; }
     void SetRows(int rows);
@@ -369,7 +371,7 @@ public:
     void UserDoubleClick(int row, int col);
     std::map<std::string, std::string> Properties() const override;
 
-private:
+  private:
     struct Cell {
         std::string text;
         std::int32_t back = -1;
@@ -392,7 +394,7 @@ private:
 
 // The month calendar (MonthView) and the date picker (DTPicker).
 class DateControl : public Control {
-public:
+  public:
     DateControl(Form& form, ControlType type, std::string name, int index);
     DateTime Value() const { return value_; }
     // A date set in code or by the user raises SelChange (calendar) or Change (picker).
@@ -404,26 +406,26 @@ public:
     void UserPick(DateTime date);  // the user clicks a date: the change, then DateClick
     std::map<std::string, std::string> Properties() const override;
 
-private:
+  private:
     DateTime value_;
     DateTime minDate_ = DateTime::FromYmd(1900, 1, 1);
     DateTime maxDate_ = DateTime::FromYmd(9999, 12, 31);
 };
 
 class MonthView : public DateControl {
-public:
+  public:
     MonthView(Form& form, std::string name, int index = -1)
         : DateControl(form, ControlType::MonthView, std::move(name), index) {}
 };
 
 class DatePicker : public DateControl {
-public:
+  public:
     DatePicker(Form& form, std::string name, int index = -1)
         : DateControl(form, ControlType::DatePicker, std::move(name), index) {}
 };
 
 class UpDown : public Control {
-public:
+  public:
     UpDown(Form& form, std::string name, int index = -1)
         : Control(form, ControlType::UpDown, std::move(name), index) {}
     int Value() const { return value_; }
@@ -438,12 +440,12 @@ public:
     void UserDown();  // DownClick, then Change
     std::map<std::string, std::string> Properties() const override;
 
-private:
+  private:
     int value_ = 0, min_ = 0, max_ = 10, increment_ = 1;
 };
 
 class Tab : public Control {
-public:
+  public:
     Tab(Form& form, std::string name, int index = -1)
         : Control(form, ControlType::Tab, std::move(name), index) {}
     int Tabs() const { return static_cast<int>(captions_.size()); }
@@ -458,7 +460,7 @@ public:
     void SetTabVisible(int tab, bool visible);
     std::map<std::string, std::string> Properties() const override;
 
-private:
+  private:
     int tab_ = 0;
     std::vector<std::string> captions_;
     std::vector<bool> enabled_;
@@ -466,7 +468,7 @@ private:
 };
 
 class ProgressBar : public Control {
-public:
+  public:
     ProgressBar(Form& form, std::string name, int index = -1)
         : Control(form, ControlType::ProgressBar, std::move(name), index) {}
     int Value() const { return value_; }
@@ -476,13 +478,13 @@ public:
     int Max() const { return max_; }
     void SetMax(int v) { max_ = v; }
 
-private:
+  private:
     int value_ = 0, min_ = 0, max_ = 100;
 };
 
 // A picture: an image file shown in the box, or nothing.
 class Image : public Control {
-public:
+  public:
     Image(Form& form, std::string name, int index = -1)
         : Control(form, ControlType::Image, std::move(name), index) {}
     const std::string& Picture() const { return picture_; }  // full path of the file, or empty
@@ -491,25 +493,25 @@ public:
     void SetStretch(bool value);
     std::map<std::string, std::string> Properties() const override;
 
-private:
+  private:
     std::string picture_;
     bool stretch_ = false;
 };
 
 // A menu entry; Container() names the menu it belongs to, empty for the menu bar.
 class Menu : public Control {
-public:
+  public:
     Menu(Form& form, std::string name, int index = -1)
         : Control(form, ControlType::Menu, std::move(name), index) {}
     bool Checked() const { return checked_; }
     void SetChecked(bool value);
 
-private:
+  private:
     bool checked_ = false;
 };
 
 class Timer : public Control {
-public:
+  public:
     Timer(Form& form, std::string name, int index = -1)
         : Control(form, ControlType::Timer, std::move(name), index) {}
     int Interval() const { return interval_; }
@@ -518,7 +520,7 @@ public:
     void Tick();
     std::map<std::string, std::string> Properties() const override;
 
-private:
+  private:
     int interval_ = 0;
     bool ticking_ = false;
 };

@@ -40,9 +40,9 @@ int SecondsOfDay(double serial) {
 
 const std::array<const char*, 7> kDayNames = {"Sunday",   "Monday", "Tuesday", "Wednesday",
                                               "Thursday", "Friday", "Saturday"};
-const std::array<const char*, 12> kMonthNames = {"January", "February", "March",     "April",
-                                                 "May",     "June",     "July",      "August",
-                                                 "September", "October", "November", "December"};
+const std::array<const char*, 12> kMonthNames = {"January",   "February", "March",    "April",
+                                                 "May",       "June",     "July",     "August",
+                                                 "September", "October",  "November", "December"};
 
 }  // namespace
 
@@ -58,11 +58,16 @@ DateTime DateTime::FromYmd(int year, int month, int day) {
 }
 
 DateTime DateTime::FromYmdHms(int year, int month, int day, int hour, int minute, int second) {
-    return DateTime(FromYmd(year, month, day).serial_ + (hour * 3600 + minute * 60 + second) / 86400.0);
+    return DateTime(FromYmd(year, month, day).serial_ +
+                    (hour * 3600 + minute * 60 + second) / 86400.0);
 }
 
-std::int32_t DateTime::DayNumber() const { return static_cast<std::int32_t>(std::floor(serial_)); }
-DateTime DateTime::DateOnly() const { return DateTime(std::floor(serial_)); }
+std::int32_t DateTime::DayNumber() const {
+    return static_cast<std::int32_t>(std::floor(serial_));
+}
+DateTime DateTime::DateOnly() const {
+    return DateTime(std::floor(serial_));
+}
 
 int DateTime::Year() const {
     int y, m, d;
@@ -79,17 +84,27 @@ int DateTime::Day() const {
     CivilFromDays(DayNumber() - kEpochOffset, y, m, d);
     return d;
 }
-int DateTime::Hour() const { return SecondsOfDay(serial_) / 3600; }
-int DateTime::Minute() const { return SecondsOfDay(serial_) / 60 % 60; }
-int DateTime::Second() const { return SecondsOfDay(serial_) % 60; }
-int DateTime::DayOfYear() const { return DayNumber() - FromYmd(Year(), 1, 1).DayNumber() + 1; }
+int DateTime::Hour() const {
+    return SecondsOfDay(serial_) / 3600;
+}
+int DateTime::Minute() const {
+    return SecondsOfDay(serial_) / 60 % 60;
+}
+int DateTime::Second() const {
+    return SecondsOfDay(serial_) % 60;
+}
+int DateTime::DayOfYear() const {
+    return DayNumber() - FromYmd(Year(), 1, 1).DayNumber() + 1;
+}
 int DateTime::Weekday() const {
     long n = (static_cast<long>(DayNumber()) + 6) % 7;
     if (n < 0) n += 7;
     return static_cast<int>(n) + 1;
 }
 
-bool IsLeapYear(int year) { return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0; }
+bool IsLeapYear(int year) {
+    return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
+}
 
 int DaysInMonth(int year, int month) {
     static const int days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
@@ -111,7 +126,8 @@ int DatePart(const std::string& interval, DateTime date) {
 
 DateTime DateAdd(const std::string& interval, int number, DateTime date) {
     const double time = date.Serial() - std::floor(date.Serial());
-    if (interval == "d" || interval == "y" || interval == "w") return DateTime(date.Serial() + number);
+    if (interval == "d" || interval == "y" || interval == "w")
+        return DateTime(date.Serial() + number);
     if (interval == "ww") return DateTime(date.Serial() + 7.0 * number);
     if (interval == "h") return DateTime(date.Serial() + number / 24.0);
     if (interval == "m" || interval == "yyyy" || interval == "q") {
@@ -128,7 +144,8 @@ DateTime DateAdd(const std::string& interval, int number, DateTime date) {
 long DateDiff(const std::string& interval, DateTime first, DateTime second) {
     if (interval == "d" || interval == "y") return second.DayNumber() - first.DayNumber();
     if (interval == "ww" || interval == "w") return (second.DayNumber() - first.DayNumber()) / 7;
-    if (interval == "m") return (second.Year() - first.Year()) * 12L + second.Month() - first.Month();
+    if (interval == "m")
+        return (second.Year() - first.Year()) * 12L + second.Month() - first.Month();
     if (interval == "yyyy") return second.Year() - first.Year();
     return 0;
 }
@@ -147,7 +164,9 @@ std::string LongTime(DateTime date) {
     return buf;
 }
 
-std::string ShortTime(DateTime date) { return FormatDate(date, "hh:nn am/pm"); }
+std::string ShortTime(DateTime date) {
+    return FormatDate(date, "hh:nn am/pm");
+}
 
 std::string WeekdayName(int weekday) {
     return weekday >= 1 && weekday <= 7 ? kDayNames[static_cast<size_t>(weekday - 1)] : "";
@@ -159,12 +178,14 @@ std::string MonthName(int month) {
 
 std::string FormatDate(DateTime date, const std::string& pattern) {
     std::string out;
-    const bool twelveHour = pattern.find("am/pm") != std::string::npos ||
-                            pattern.find("AM/PM") != std::string::npos;
+    const bool twelveHour =
+        pattern.find("am/pm") != std::string::npos || pattern.find("AM/PM") != std::string::npos;
     size_t i = 0;
     auto run = [&](char c) {
         size_t n = 0;
-        while (i + n < pattern.size() && std::tolower(static_cast<unsigned char>(pattern[i + n])) == c) ++n;
+        while (i + n < pattern.size() &&
+               std::tolower(static_cast<unsigned char>(pattern[i + n])) == c)
+            ++n;
         return n;
     };
     char buf[16];
@@ -176,8 +197,10 @@ std::string FormatDate(DateTime date, const std::string& pattern) {
             i += 5;
         } else if (c == 'd') {
             size_t n = run('d');
-            if (n >= 4) out += WeekdayName(date.Weekday());
-            else if (n == 3) out += WeekdayName(date.Weekday()).substr(0, 3);
+            if (n >= 4)
+                out += WeekdayName(date.Weekday());
+            else if (n == 3)
+                out += WeekdayName(date.Weekday()).substr(0, 3);
             else {
                 std::snprintf(buf, sizeof buf, n == 2 ? "%02d" : "%d", date.Day());
                 out += buf;
@@ -185,8 +208,10 @@ std::string FormatDate(DateTime date, const std::string& pattern) {
             i += n;
         } else if (c == 'm') {
             size_t n = run('m');
-            if (n >= 4) out += MonthName(date.Month());
-            else if (n == 3) out += MonthName(date.Month()).substr(0, 3);
+            if (n >= 4)
+                out += MonthName(date.Month());
+            else if (n == 3)
+                out += MonthName(date.Month()).substr(0, 3);
             else {
                 std::snprintf(buf, sizeof buf, n == 2 ? "%02d" : "%d", date.Month());
                 out += buf;
@@ -194,7 +219,8 @@ std::string FormatDate(DateTime date, const std::string& pattern) {
             i += n;
         } else if (c == 'y') {
             size_t n = run('y');
-            std::snprintf(buf, sizeof buf, n >= 4 ? "%04d" : "%02d", n >= 4 ? date.Year() : date.Year() % 100);
+            std::snprintf(buf, sizeof buf, n >= 4 ? "%04d" : "%02d",
+                          n >= 4 ? date.Year() : date.Year() % 100);
             out += buf;
             i += n;
         } else if (c == 'h') {

@@ -8,7 +8,7 @@ namespace platform {
 // A date and time as the platform keeps it: days since 30 December 1899, the fraction
 // being the time of day. Whole dates have no fraction.
 class DateTime {
-public:
+  public:
     DateTime() = default;
     explicit DateTime(double serial) : serial_(serial) {}
     static DateTime FromYmd(int year, int month, int day);
@@ -32,7 +32,7 @@ public:
     friend bool operator==(DateTime a, DateTime b) { return a.serial_ == b.serial_; }
     friend auto operator<=>(DateTime a, DateTime b) { return a.serial_ <=> b.serial_; }
 
-private:
+  private:
     double serial_ = 0;
 };
 
@@ -40,15 +40,20 @@ bool IsLeapYear(int year);
 int DaysInMonth(int year, int month);
 
 // Date services of the one fixed locale (United States English).
-int DatePart(const std::string& interval, DateTime date);  // "yyyy", "q", "m", "y", "d", "w", "h", "n", "s"
-DateTime DateAdd(const std::string& interval, int number, DateTime date);  // "yyyy", "m", "d", "w", "ww"
-long DateDiff(const std::string& interval, DateTime first, DateTime second);  // "d", "m", "yyyy", "ww"
-std::string ShortDate(DateTime date);       // M/d/yyyy
-std::string LongTime(DateTime date);        // h:mm:ss AM
-std::string ShortTime(DateTime date);       // hh:mm am/pm
-std::string WeekdayName(int weekday);       // 1 = "Sunday"
-std::string MonthName(int month);           // 1 = "January"
-std::string FormatDate(DateTime date, const std::string& pattern);  // d, dd, ddd, dddd, m, mm, mmm, mmmm, yy, yyyy, h, hh, nn, ss, am/pm
+int DatePart(const std::string& interval,
+             DateTime date);  // "yyyy", "q", "m", "y", "d", "w", "h", "n", "s"
+DateTime DateAdd(const std::string& interval, int number,
+                 DateTime date);  // "yyyy", "m", "d", "w", "ww"
+long DateDiff(const std::string& interval, DateTime first,
+              DateTime second);        // "d", "m", "yyyy", "ww"
+std::string ShortDate(DateTime date);  // M/d/yyyy
+std::string LongTime(DateTime date);   // h:mm:ss AM
+std::string ShortTime(DateTime date);  // hh:mm am/pm
+std::string WeekdayName(int weekday);  // 1 = "Sunday"
+std::string MonthName(int month);      // 1 = "January"
+std::string FormatDate(DateTime date,
+                       const std::string& pattern);      // d, dd, ddd, dddd, m, mm, mmm, mmmm, yy,
+                                                         // yyyy, h, hh, nn, ss, am/pm
 bool ParseDate(const std::string& text, DateTime& out);  // M/d/yyyy, yyyy-mm-dd, with optional time
 
 }  // namespace platform

@@ -149,14 +149,24 @@ bool ParseNumber(const std::string& token, double& out) {
     return end && *end == '\0';
 }
 
-fs::path Resolved(const std::string& path) { return ResolvePath(path); }
+fs::path Resolved(const std::string& path) {
+    return ResolvePath(path);
+}
 
 }  // namespace
 
-void SetAppFolder(const std::string& folder) { AppFolderText() = Normalise(folder); }
-const std::string& AppFolder() { return AppFolderText(); }
-std::string ProgramFileName() { return ProgramName(); }
-void SetProgramFileName(const std::string& name) { ProgramName() = name; }
+void SetAppFolder(const std::string& folder) {
+    AppFolderText() = Normalise(folder);
+}
+const std::string& AppFolder() {
+    return AppFolderText();
+}
+std::string ProgramFileName() {
+    return ProgramName();
+}
+void SetProgramFileName(const std::string& name) {
+    ProgramName() = name;
+}
 
 fs::path ResolvePath(const std::string& path) {
     const std::string norm = Normalise(path);
@@ -353,7 +363,8 @@ void Open(int fileNo, const std::string& path, OpenMode mode, int recordLength) 
                 Raise(err::PathNotFound, f.target.string());
             if (mode == OpenMode::Append && fs::is_regular_file(f.target, ec)) {
                 std::ifstream in(f.target, std::ios::binary);
-                f.buffer.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+                f.buffer.assign(std::istreambuf_iterator<char>(in),
+                                std::istreambuf_iterator<char>());
             }
             f.temporary = f.target;
             f.temporary += ".~" + std::to_string(::getpid());
@@ -385,9 +396,13 @@ void CloseAll() {
     while (!Table().empty()) Close(Table().begin()->first);
 }
 
-void AbandonAll() { Table().clear(); }
+void AbandonAll() {
+    Table().clear();
+}
 
-int OpenFileCount() { return static_cast<int>(Table().size()); }
+int OpenFileCount() {
+    return static_cast<int>(Table().size());
+}
 
 bool Eof(int fileNo) {
     OpenFile& f = Get(fileNo, "EOF");
@@ -476,7 +491,9 @@ double InputNumber(int fileNo) {
     return value;
 }
 
-long InputLong(int fileNo) { return std::lround(InputNumber(fileNo)); }
+long InputLong(int fileNo) {
+    return std::lround(InputNumber(fileNo));
+}
 
 bool InputBool(int fileNo) {
     OpenFile& f = Get(fileNo, "Input");
@@ -530,7 +547,8 @@ void PutRecord(int fileNo, long recordNo, std::string_view bytes) {
     OpenFile& f = Get(fileNo, "Put");
     if (f.mode != OpenMode::Random) Raise(err::BadFileMode, f.target.string());
     if (recordNo < 1) Raise(err::BadRecordNumber, f.target.string());
-    if (static_cast<int>(bytes.size()) > f.recordLength) Raise(err::BadRecordLength, f.target.string());
+    if (static_cast<int>(bytes.size()) > f.recordLength)
+        Raise(err::BadRecordLength, f.target.string());
     std::string record(bytes);
     record.resize(static_cast<size_t>(f.recordLength), '\0');
     f.random->clear();

@@ -20,7 +20,7 @@ std::string ProgramFileName();  // the program's own file name without extension
 void SetProgramFileName(const std::string& name);
 
 std::filesystem::path ResolvePath(const std::string& path);
-bool FileExists(const std::string& path);    // a regular file; folders do not count
+bool FileExists(const std::string& path);  // a regular file; folders do not count
 bool FolderExists(const std::string& path);
 bool WildcardMatch(std::string_view name, std::string_view pattern);  // * and ?, no case
 
@@ -46,7 +46,9 @@ std::int64_t Lof(int fileNo);
 
 // One value of a delimited line: text, number, flag or date.
 using Field = std::variant<std::string, double, bool, DateTime>;
-inline Field Text(std::string s) { return Field(std::move(s)); }
+inline Field Text(std::string s) {
+    return Field(std::move(s));
+}
 
 void WriteFields(int fileNo, std::initializer_list<Field> fields);
 void WriteFields(int fileNo, const std::vector<Field>& fields);

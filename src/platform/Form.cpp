@@ -93,9 +93,13 @@ bool Form::Unload(int unloadMode) {
     return true;
 }
 
-void Form::UserClose() { Unload(0); }
+void Form::UserClose() {
+    Unload(0);
+}
 
-void Form::PopupMenu(Control& menu) { Ui().PopupMenu(*this, menu); }
+void Form::PopupMenu(Control& menu) {
+    Ui().PopupMenu(*this, menu);
+}
 
 void Form::Register(Control& control) {
     controls_.push_back(&control);
@@ -116,9 +120,13 @@ std::vector<Control*> Form::Array(const std::string& name) const {
     return elements;
 }
 
-void Form::On(const std::string& key, Handler handler) { handlers_[key] = std::move(handler); }
+void Form::On(const std::string& key, Handler handler) {
+    handlers_[key] = std::move(handler);
+}
 
-bool Form::HasHandler(const std::string& key) const { return handlers_.count(key) > 0; }
+bool Form::HasHandler(const std::string& key) const {
+    return handlers_.count(key) > 0;
+}
 
 bool Form::Raise(const std::string& key, EventArgs& args) {
     auto it = handlers_.find(key);
@@ -133,7 +141,9 @@ bool Form::Raise(const std::string& key) {
     return Raise(key, args);
 }
 
-void Form::SetFocusedControl(Control* control) { focus_ = control; }
+void Form::SetFocusedControl(Control* control) {
+    focus_ = control;
+}
 
 // ---- Forms
 
@@ -141,7 +151,9 @@ void Forms::RegisterFactory(const std::string& name, Factory factory) {
     Reg().factories[name] = std::move(factory);
 }
 
-bool Forms::Known(const std::string& name) { return Reg().factories.count(name) > 0; }
+bool Forms::Known(const std::string& name) {
+    return Reg().factories.count(name) > 0;
+}
 
 Form& Forms::Get(const std::string& name) {
     auto& reg = Reg();
@@ -160,7 +172,9 @@ Form* Forms::Existing(const std::string& name) {
     return it == Reg().live.end() ? nullptr : it->second.get();
 }
 
-std::vector<Form*> Forms::Loaded() { return Reg().loadOrder; }
+std::vector<Form*> Forms::Loaded() {
+    return Reg().loadOrder;
+}
 
 Form* Forms::Active() {
     auto& act = Reg().activation;
@@ -185,7 +199,9 @@ void Forms::Deactivated(Form& form) {
     if (!act.empty()) act.back()->Raise("Form.Activate");
 }
 
-void Forms::LoadedNow(Form& form) { Reg().loadOrder.push_back(&form); }
+void Forms::LoadedNow(Form& form) {
+    Reg().loadOrder.push_back(&form);
+}
 
 void Forms::Unloaded(Form& form) {
     auto& reg = Reg();
@@ -198,7 +214,9 @@ void Forms::Unloaded(Form& form) {
     }
 }
 
-void Forms::Collect() { Reg().discarded.clear(); }
+void Forms::Collect() {
+    Reg().discarded.clear();
+}
 
 void Forms::UnloadAll() {
     auto order = Reg().loadOrder;

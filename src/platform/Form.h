@@ -16,7 +16,7 @@ constexpr int vbModal = 1;
 // A screen: its controls and handlers are registered by name, so that the desktop
 // renderer, the tests and the script driver reach them the same way.
 class Form {
-public:
+  public:
     explicit Form(std::string name);
     Form(const Form&) = delete;
     Form& operator=(const Form&) = delete;
@@ -62,7 +62,7 @@ public:
     void SetObserver(Observer observer) { observer_ = std::move(observer); }
     void Notify();
 
-private:
+  private:
     friend class Forms;
     std::string name_;
     std::string caption_;
@@ -81,7 +81,7 @@ private:
 // The screens of the program by name. A screen is made on first access; once unloaded,
 // its object is kept until the running event ends, then discarded.
 class Forms {
-public:
+  public:
     using Factory = std::function<std::unique_ptr<Form>()>;
     static void RegisterFactory(const std::string& name, Factory factory);
     static bool Known(const std::string& name);
@@ -99,7 +99,7 @@ public:
         return static_cast<T&>(Get(T::kName));
     }
 
-private:
+  private:
     friend class Form;
     static void Activate(Form& form);
     static void Deactivated(Form& form);

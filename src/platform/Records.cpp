@@ -23,7 +23,9 @@ void RecordWriter::Int32(std::int32_t value) {
     for (int i = 0; i < 4; ++i) bytes_ += static_cast<char>((u >> (8 * i)) & 0xFF);
 }
 
-void RecordWriter::Byte(std::uint8_t value) { bytes_ += static_cast<char>(value); }
+void RecordWriter::Byte(std::uint8_t value) {
+    bytes_ += static_cast<char>(value);
+}
 
 void RecordWriter::Double(double value) {
     char raw[8];
@@ -31,7 +33,9 @@ void RecordWriter::Double(double value) {
     bytes_.append(raw, 8);
 }
 
-void RecordWriter::Date(DateTime value) { Double(value.Serial()); }
+void RecordWriter::Date(DateTime value) {
+    Double(value.Serial());
+}
 
 void RecordWriter::Currency(std::int64_t tenThousandths) {
     auto u = static_cast<std::uint64_t>(tenThousandths);
@@ -70,11 +74,14 @@ std::int16_t RecordReader::Int16() {
 std::int32_t RecordReader::Int32() {
     auto b = Take(4);
     std::uint32_t u = 0;
-    for (int i = 3; i >= 0; --i) u = (u << 8) | static_cast<unsigned char>(b[static_cast<size_t>(i)]);
+    for (int i = 3; i >= 0; --i)
+        u = (u << 8) | static_cast<unsigned char>(b[static_cast<size_t>(i)]);
     return static_cast<std::int32_t>(u);
 }
 
-std::uint8_t RecordReader::Byte() { return static_cast<std::uint8_t>(Take(1)[0]); }
+std::uint8_t RecordReader::Byte() {
+    return static_cast<std::uint8_t>(Take(1)[0]);
+}
 
 double RecordReader::Double() {
     auto b = Take(8);
@@ -83,12 +90,15 @@ double RecordReader::Double() {
     return value;
 }
 
-DateTime RecordReader::Date() { return DateTime(Double()); }
+DateTime RecordReader::Date() {
+    return DateTime(Double());
+}
 
 std::int64_t RecordReader::Currency() {
     auto b = Take(8);
     std::uint64_t u = 0;
-    for (int i = 7; i >= 0; --i) u = (u << 8) | static_cast<unsigned char>(b[static_cast<size_t>(i)]);
+    for (int i = 7; i >= 0; --i)
+        u = (u << 8) | static_cast<unsigned char>(b[static_cast<size_t>(i)]);
     return static_cast<std::int64_t>(u);
 }
 
@@ -104,7 +114,9 @@ std::string RTrim(std::string_view text) {
     return std::string(text.substr(0, e));
 }
 
-std::string Trim(std::string_view text) { return LTrim(RTrim(text)); }
+std::string Trim(std::string_view text) {
+    return LTrim(RTrim(text));
+}
 
 std::string UCase(std::string_view text) {
     std::string out(text);

@@ -12,7 +12,7 @@ namespace platform {
 // text padded with blanks, little-endian integers, dates as 8-byte day counts,
 // currency as a 64-bit count of ten-thousandths.
 class RecordWriter {
-public:
+  public:
     void Text(std::string_view value, size_t length);
     void Int16(std::int16_t value);
     void Int32(std::int32_t value);
@@ -22,12 +22,12 @@ public:
     void Currency(std::int64_t tenThousandths);
     const std::string& Bytes() const { return bytes_; }
 
-private:
+  private:
     std::string bytes_;
 };
 
 class RecordReader {
-public:
+  public:
     explicit RecordReader(std::string bytes) : bytes_(std::move(bytes)) {}
     std::string Text(size_t length);  // as stored, blanks kept
     std::int16_t Int16();
@@ -38,7 +38,7 @@ public:
     std::int64_t Currency();
     size_t Position() const { return pos_; }
 
-private:
+  private:
     std::string_view Take(size_t n);
     std::string bytes_;
     size_t pos_ = 0;

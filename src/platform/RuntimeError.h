@@ -8,14 +8,14 @@ namespace platform {
 // The platform's run-time failure: a numbered error that nothing in the system catches.
 // The top of the event loop shows it and ends the program without writing further.
 class RuntimeError : public std::runtime_error {
-public:
+  public:
     RuntimeError(int number, std::string description, std::string where = {});
 
     int Number() const { return number_; }
     const std::string& Description() const { return description_; }
     const std::string& Where() const { return where_; }
 
-private:
+  private:
     int number_;
     std::string description_;
     std::string where_;

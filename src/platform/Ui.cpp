@@ -18,15 +18,23 @@ Backend& Ui() {
     return *current;
 }
 
-void SetBackend(Backend* backend) { current = backend; }
+void SetBackend(Backend* backend) {
+    current = backend;
+}
 
 int MsgBox(const std::string& prompt, int buttons, const std::string& title) {
     return Ui().MsgBox(prompt, buttons, title.empty() ? Ui().ProductName() : title);
 }
 
-void Beep() { Ui().Beep(); }
-DateTime Now() { return Ui().Now(); }
-DateTime Today() { return current ? Ui().Now().DateOnly() : DateTime::FromYmd(2000, 1, 1); }
+void Beep() {
+    Ui().Beep();
+}
+DateTime Now() {
+    return Ui().Now();
+}
+DateTime Today() {
+    return current ? Ui().Now().DateOnly() : DateTime::FromYmd(2000, 1, 1);
+}
 
 void DoEvents() {
     Ui().DoEvents();
@@ -38,8 +46,12 @@ void End() {
     throw ProgramEnded{};
 }
 
-bool ProgramHasEnded() { return ended; }
-void ClearProgramEnded() { ended = false; }
+bool ProgramHasEnded() {
+    return ended;
+}
+void ClearProgramEnded() {
+    ended = false;
+}
 
 bool Dispatch(const std::function<void()>& work) {
     if (ended) return false;
@@ -56,8 +68,9 @@ bool Dispatch(const std::function<void()>& work) {
         // The failure is shown, then the program stops: nothing pending reaches the disk.
         AbandonAll();
         ended = true;
-        Ui().MsgBox("Run-time error '" + std::to_string(e.Number()) + "':\r\n\r\n" + e.Description(),
-                    vbCritical, Ui().ProductName());
+        Ui().MsgBox(
+            "Run-time error '" + std::to_string(e.Number()) + "':\r\n\r\n" + e.Description(),
+            vbCritical, Ui().ProductName());
     }
     // Screens unloaded by this event are discarded once no handler of theirs can be running.
     if (dispatchDepth == 0) Forms::Collect();

@@ -26,7 +26,7 @@ constexpr int vbNo = 7;
 
 // What a backend (desktop or headless) does for the screens.
 class Backend {
-public:
+  public:
     virtual ~Backend() = default;
     virtual int MsgBox(const std::string& prompt, int buttons, const std::string& title) = 0;
     virtual void Beep() = 0;

@@ -14,13 +14,15 @@ std::int16_t TempFileNo = 0;
 namespace {
 
 // The names the exit backup copies, ".txt" appended.
-const char* const kBackedUpFiles[] = {"CompanyLogo", "CustomerData", "AuxHeadings", "LogoSettings",
-                                      "Phone",       "MyBusinessData", "PrintColors", "SoldItems",
-                                      "MyWebSite",   "TaxRecords",     "SpeedNumbers"};
+const char* const kBackedUpFiles[] = {
+    "CompanyLogo", "CustomerData", "AuxHeadings", "LogoSettings", "Phone",       "MyBusinessData",
+    "PrintColors", "SoldItems",    "MyWebSite",   "TaxRecords",   "SpeedNumbers"};
 
 }  // namespace
 
-std::string DataPath(const std::string& path) { return AppFolder() + path; }
+std::string DataPath(const std::string& path) {
+    return AppFolder() + path;
+}
 
 bool FindFile(const std::string& path) {
     if (FileExists(DataPath(path))) return true;
@@ -74,10 +76,18 @@ void OpenTemporaryFile(int recordLength) {
     Open(TempFileNo, DataPath("/TemporaryFile.txt"), OpenMode::Random, recordLength);
 }
 
-void OpenCustomerData() { OpenRandom("/CustomerData.txt", kCustomerRecordLength); }
-void OpenContractInfo() { OpenRandomSecond("/ContractInfo.txt", kContractRecordLength); }
-void OpenCycleInfo() { OpenRandomSecond("/CycleInfo.txt", kCycleRecordLength); }
-void CloseAllFiles() { CloseAll(); }
+void OpenCustomerData() {
+    OpenRandom("/CustomerData.txt", kCustomerRecordLength);
+}
+void OpenContractInfo() {
+    OpenRandomSecond("/ContractInfo.txt", kContractRecordLength);
+}
+void OpenCycleInfo() {
+    OpenRandomSecond("/CycleInfo.txt", kCycleRecordLength);
+}
+void CloseAllFiles() {
+    CloseAll();
+}
 
 void MakeFolder(const std::string& path) {
     if (!FolderExists(DataPath(path))) MkDir(DataPath(path));

@@ -3,7 +3,7 @@
 #include "platform/Ui.h"
 
 std::vector<std::string> TeamNames{"empty"};
-std::array<std::string, 8> DayNames{"",         "Sunday", "Monday",   "Tuesday",
+std::array<std::string, 8> DayNames{"",          "Sunday",   "Monday", "Tuesday",
                                     "Wednesday", "Thursday", "Friday", "Saturday"};
 std::int16_t MenuRoutine = 0;
 

@@ -9,10 +9,11 @@ using testing_support::TestFolder;
 namespace {
 
 class DemoForm : public Form {
-public:
+  public:
     static constexpr const char* kName = "frmDemo";
     DemoForm() : Form(kName) {
-        for (int i = 0; i < 3; ++i) opt.emplace_back(std::make_unique<OptionButton>(*this, "opt", i));
+        for (int i = 0; i < 3; ++i)
+            opt.emplace_back(std::make_unique<OptionButton>(*this, "opt", i));
         On("opt.Click", [this](EventArgs& e) { log += "opt" + std::to_string(e.index) + " "; });
         On("lst.Click", [this](EventArgs&) {
             log += "lst ";

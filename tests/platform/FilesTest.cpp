@@ -10,7 +10,9 @@ using testing_support::TestFolder;
 
 namespace {
 
-std::string P(const std::string& rel) { return AppFolder() + rel; }
+std::string P(const std::string& rel) {
+    return AppFolder() + rel;
+}
 
 int ErrorOf(const std::function<void()>& f) {
     try {
@@ -29,10 +31,12 @@ TEST(Files, DelimitedWriteGivesQuotedTextBareNumbersFlagsAndDates) {
     Open(n, P("\\out.txt"), OpenMode::Output);
     WriteFields(n, {Field(8.0)});
     WriteFields(n, {Text("")});
-    WriteFields(n, {Text("A, B"), Field(-1.0), Field(true), Field(false), Field(DateTime::FromYmd(2026, 2, 3))});
+    WriteFields(n, {Text("A, B"), Field(-1.0), Field(true), Field(false),
+                    Field(DateTime::FromYmd(2026, 2, 3))});
     WriteFields(n, {Field(2.5)});
     Close(n);
-    EXPECT_EQ(folder.Read("out.txt"), "8\r\n\"\"\r\n\"A, B\",-1,#TRUE#,#FALSE#,#2026-02-03#\r\n2.5\r\n");
+    EXPECT_EQ(folder.Read("out.txt"),
+              "8\r\n\"\"\r\n\"A, B\",-1,#TRUE#,#FALSE#,#2026-02-03#\r\n2.5\r\n");
 }
 
 TEST(Files, DelimitedInputReadsQuotedAndBareValues) {
@@ -59,8 +63,10 @@ TEST(Files, WrongTypeOrMissingFileIsTheRunTimeFailure) {
     Open(n, P("/bad.txt"), OpenMode::Input);
     EXPECT_EQ(ErrorOf([&] { InputNumber(n); }), err::TypeMismatch);
     CloseAll();
-    EXPECT_EQ(ErrorOf([&] { Open(FreeFile(), P("/none.txt"), OpenMode::Input); }), err::FileNotFound);
-    EXPECT_EQ(ErrorOf([&] { Open(FreeFile(), P("/nofolder/x.txt"), OpenMode::Output); }), err::PathNotFound);
+    EXPECT_EQ(ErrorOf([&] { Open(FreeFile(), P("/none.txt"), OpenMode::Input); }),
+              err::FileNotFound);
+    EXPECT_EQ(ErrorOf([&] { Open(FreeFile(), P("/nofolder/x.txt"), OpenMode::Output); }),
+              err::PathNotFound);
 }
 
 TEST(Files, OutputReachesItsNameOnlyWhenClosed) {

@@ -14,7 +14,8 @@ namespace testing_support {
 
 TestFolder::TestFolder(platform::DateTime now) {
     std::random_device rd;
-    path_ = fs::temp_directory_path() / ("scheduler-test-" + std::to_string(rd()) + std::to_string(rd()));
+    path_ = fs::temp_directory_path() /
+            ("scheduler-test-" + std::to_string(rd()) + std::to_string(rd()));
     fs::create_directories(path_);
     platform::SetAppFolder(path_.string());
     platform::SetProgramFileName("NorvaxConstructionScheduler");
@@ -46,9 +47,13 @@ std::string TestFolder::Read(const std::string& relative) const {
     return ss.str();
 }
 
-bool TestFolder::Exists(const std::string& relative) const { return fs::exists(path_ / relative); }
+bool TestFolder::Exists(const std::string& relative) const {
+    return fs::exists(path_ / relative);
+}
 
-void TestFolder::MakeDirs(const std::string& relative) const { fs::create_directories(path_ / relative); }
+void TestFolder::MakeDirs(const std::string& relative) const {
+    fs::create_directories(path_ / relative);
+}
 
 std::string TestFolder::Golden(const std::string& name) {
     std::ifstream in(fs::path(TEST_DATA_DIR) / name, std::ios::binary);

@@ -11,8 +11,9 @@ namespace testing_support {
 // A fresh program folder for one test, with the headless backend and a set clock.
 // Everything is undone at the end of the test.
 class TestFolder {
-public:
-    explicit TestFolder(platform::DateTime now = platform::DateTime::FromYmdHms(2026, 6, 15, 9, 0, 0));
+  public:
+    explicit TestFolder(platform::DateTime now = platform::DateTime::FromYmdHms(2026, 6, 15, 9, 0,
+                                                                                0));
     ~TestFolder();
     TestFolder(const TestFolder&) = delete;
     TestFolder& operator=(const TestFolder&) = delete;
@@ -29,7 +30,7 @@ public:
     // A file of tests/data.
     static std::string Golden(const std::string& name);
 
-private:
+  private:
     std::filesystem::path path_;
     platform::HeadlessBackend backend_;
 };

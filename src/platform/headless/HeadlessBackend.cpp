@@ -12,7 +12,10 @@ int HeadlessBackend::MsgBox(const std::string& prompt, int buttons, const std::s
         answers_.pop_front();
     }
     boxes_.push_back({title, prompt, buttons, answer});
-    std::string answerText = answer == vbYes ? "Yes" : answer == vbNo ? "No" : answer == vbCancel ? "Cancel" : "OK";
+    std::string answerText = answer == vbYes      ? "Yes"
+                             : answer == vbNo     ? "No"
+                             : answer == vbCancel ? "Cancel"
+                                                  : "OK";
     transcript_.push_back("message [" + title + "] " + prompt + " -> " + answerText);
     return answer;
 }
@@ -30,9 +33,13 @@ void HeadlessBackend::DoEvents() {
     if (doEventsHook_) doEventsHook_();
 }
 
-void HeadlessBackend::FormShown(Form& form) { transcript_.push_back("show " + form.Name()); }
+void HeadlessBackend::FormShown(Form& form) {
+    transcript_.push_back("show " + form.Name());
+}
 
-void HeadlessBackend::FormHidden(Form& form) { transcript_.push_back("hide " + form.Name()); }
+void HeadlessBackend::FormHidden(Form& form) {
+    transcript_.push_back("hide " + form.Name());
+}
 
 void HeadlessBackend::PopupMenu(Form& form, Control& menu) {
     transcript_.push_back("popup " + form.Name() + "." + menu.Key());

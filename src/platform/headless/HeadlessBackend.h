@@ -13,7 +13,7 @@ namespace platform {
 // (the first button when it is empty), the clock is set by the caller, and everything
 // the user would see or hear is written to a transcript.
 class HeadlessBackend : public Backend {
-public:
+  public:
     struct ShownBox {
         std::string title;
         std::string prompt;
@@ -48,7 +48,7 @@ public:
     void Log(const std::string& line) { transcript_.push_back(line); }
     void ClearLog();
 
-private:
+  private:
     DateTime now_ = DateTime::FromYmdHms(2026, 6, 15, 9, 0, 0);
     std::deque<int> answers_;
     std::vector<ShownBox> boxes_;

@@ -1,0 +1,197 @@
+#include "frame/SubMain.h"
+
+#include "frame/Navigation.h"
+#include "frame/frmAbout.h"
+#include "frame/frmStartup.h"
+#include "frame/frmWelcome.h"
+#include "platform/Files.h"
+#include "platform/Form.h"
+#include "platform/Records.h"
+#include "platform/RuntimeError.h"
+#include "platform/Ui.h"
+#include "schedule/SchedulerRoutines.h"
+#include "schedule/Teams.h"
+#include "setup/AssignmentRoutines.h"
+#include "setup/SettingsRoutines.h"
+#include "setup/SetupHooks.h"
+#include "setup/frmSetup.h"
+#include "store/BasicDiskRoutines.h"
+#include "store/SharedState.h"
+
+using namespace platform;
+
+namespace {
+
+template <typename T>
+void Register() {
+    Forms::RegisterFactory(T::kName, [] { return std::make_unique<T>(); });
+}
+
+constexpr size_t kAccountNoLength = 20;
+
+void LoadIfKnown(const char* screen) {
+    if (Forms::Known(screen)) Forms::Get(screen).Load();
+}
+
+}  // namespace
+
+void RegisterScreens() {
+    Register<frmStartup>();
+    Register<frmAbout>();
+    Register<frmWelcome>();
+    Register<frmSetup>();
+    ExitProgramHook = [] { ExitProgram(); };
+    ShowMainMenuHook = [] { Forms::Get(frmStartup::kName).Show(); };
+}
+
+void SubMain() {
+    BuildFolderTree();
+    CheckPrevInstance();
+    LoadAssignments();
+    BuildBackupYearFolders();
+    InitTables();
+    InitScreens();
+    Forms::Get("frmSetup").Load();
+    Forms::Get(frmStartup::kName).Load();
+    if (CheckRequiredFiles()) {
+        Forms::Get(frmStartup::kName).Show();
+    } else {
+        Forms::Get(frmWelcome::kName).Show();
+    }
+}
+
+void BuildFolderTree() {
+    const std::string year = std::to_string(Today().Year());
+    for (const std::string folder :
+         {"/" + year, std::string("/Templates"), std::string("/NIActiveAccounts"),
+          std::string("/Backup"), std::string("/Backup/NIActiveAccounts"),
+          std::string("/Backup/NIActiveAccountsBACK"), std::string("/AuxFiles")})
+        MakeFolder(folder);
+    if (FindFile("/CustomerData.txt") &&
+        CountRecords("/CustomerData.txt", kCustomerRecordLength) >= 1) {
+        const int count = CountRecords("/CustomerData.txt", kCustomerRecordLength);
+        OpenCustomerData();
+        for (int record = 1; record <= count; ++record) {
+            // The account number is the first field of the customer record.
+            RecordReader reader(GetRecord(MainFileNo, record));
+            const std::string account = Trim(reader.Text(kAccountNoLength));
+            if (!FindFile("/Auxfiles/" + account)) {
+                MakeFolder("/AuxFiles/" + account);
+                for (int i = 0; i <= 5; ++i)
+                    MakeFolder("/AuxFiles/" + account + "/AuxFile" + std::to_string(i));
+            }
+        }
+        CloseAll();
+    }
+    BuildProgramFolders();
+    BuildDocumentFolders();
+}
+
+void BuildProgramFolders() {
+    const std::string exe = ProgramFileName();
+    MakeFolder("/" + exe);
+    MakeFolder("/NorvaxInvoicer");
+    MakeFolder("/NorvaxInvoicer/IncompleteInvoices");
+    MakeFolder("/Backup");
+    MakeFolder("\\Backup\\ConstructionProjects");
+    MakeFolder("/Backup/" + exe);
+    MakeFolder("\\ConstructionProjects");
+}
+
+void BuildDocumentFolders() {
+    MakeFolder("/Documents");
+    MakeFolder("/Documents/Projects");
+    MakeFolder("/Documents/Contracts");
+    MakeFolder("/Documents/Work Orders");
+}
+
+void CheckPrevInstance() {
+    if (!Ui().PrevInstance()) return;
+    MsgBox(Ui().ProductName() + " is already Running!\r\nLook for it on the Task Bar", vbOKOnly);
+    End();
+}
+
+void InitTables() {
+    // HourLabels and DayNames are fixed tables; the per-project arrays start empty.
+}
+
+void InitScreens() {
+    LoadIfKnown("frmProjectControl");
+    if (TeamNames[0] != "empty") LoadTeamLists();
+    CheckYearFolders();
+    PurgeDayFiles();
+    LoadIfKnown("frmCustomer");
+    CurrentDate = Today();
+}
+
+void CheckYearFolders() {
+    CurrentYearText = std::to_string(Today().Year());
+    MakeYearTree(CurrentYearText);
+    if (DatePart("y", Today()) > 120) {
+        DeletePreviousYear();
+        MakeYearTree(std::to_string(Today().Year() + 1));
+    }
+}
+
+void DeletePreviousYear() {
+    const std::string year = std::to_string(std::stoi(CurrentYearText) - 1);
+    for (const std::string root : {"\\" + year, "\\Backup\\" + year}) {
+        if (!FolderExists(DataPath(root))) continue;
+        for (int n = 1; n <= TeamCount(); ++n)
+            DeleteFile(root + "\\Team#" + std::to_string(n) + "\\*.*");
+        for (int n = 1; n <= TeamCount(); ++n) {
+            const std::string team = root + "\\Team#" + std::to_string(n);
+            if (FolderExists(DataPath(team))) RmDir(DataPath(team));
+        }
+        // A folder left by a team deleted earlier keeps the year from going: the platform's error.
+        RmDir(DataPath(root));
+    }
+}
+
+void PurgeDayFiles() {
+    TodayDayNumber = DatePart("y", Today());
+    int from = 1;
+    if (FindFile("\\PurgedDate.txt")) {
+        OpenForInput("\\PurgedDate.txt");
+        from = static_cast<int>(InputNumber(MainFileNo));
+        CloseAll();
+        if (from < 1) from = 1;
+    }
+    // The team counter of this loop is a byte.
+    const int teams = std::min(TeamCount(), 255);
+    for (int n = 1; n <= teams; ++n) {
+        const std::string folder = "\\" + CurrentYearText + "\\Team#" + std::to_string(n) + "\\";
+        if (from > TodayDayNumber - 1 || !FolderExists(DataPath(folder))) continue;
+        for (int day = from; day <= TodayDayNumber - 1; ++day) {
+            const std::string file = folder + std::to_string(day) + ".txt";
+            if (FileExists(DataPath(file))) DeleteFile(file);
+        }
+    }
+    OpenForOutput("\\PurgedDate.txt");
+    WriteFields(MainFileNo, {Field(static_cast<double>(TodayDayNumber - 1))});
+    CloseAll();
+    PurgeMeetings();
+    CloseAll();
+}
+
+void PurgeMeetings() {
+    if (!FindFile("\\Meetings.txt")) return;
+    const int count = CountRecords("\\Meetings.txt", kProjectRecordLength);
+    if (count < 1) return;
+    const DateTime today = Today();
+    OpenRandom("\\Meetings.txt", kProjectRecordLength);
+    const int source = MainFileNo;
+    OpenTemporaryFile(kProjectRecordLength);
+    long kept = 0;
+    for (int record = 1; record <= count; ++record) {
+        std::string bytes = GetRecord(source, record);
+        DateTime date;
+        if (!ParseDate(Trim(bytes.substr(30, 10)), date))
+            Raise(err::TypeMismatch, "\\Meetings.txt");
+        if (date.DayOfYear() >= today.DayOfYear() || date.Year() > today.Year())
+            PutRecord(TempFileNo, ++kept, bytes);
+    }
+    CloseAll();
+    DeleteEverywhere("/Meetings.txt");
+    ReplaceWithTemporary("/Meetings.txt");
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/Form.h"
+
+class frmAbout : public platform::Form {
+  public:
+    static constexpr const char* kName = "frmAbout";
+    frmAbout();
+
+    platform::Label lblTitle{*this, "lblTitle"};
+    platform::Label lblVersion{*this, "lblVersion"};
+    platform::CommandButton cmdVisit{*this, "cmdVisit"};
+    platform::CommandButton cmdOK{*this, "cmdOK"};
+
+    void cmdVisit_Click();
+    void cmdOK_Click();
+};

@@ -1,0 +1,117 @@
+#include "schedule/SchedulerRoutines.h"
+
+#include "platform/Controls.h"
+#include "platform/Files.h"
+#include "platform/Form.h"
+#include "schedule/Workdays.h"
+#include "store/BasicDiskRoutines.h"
+#include "store/SharedState.h"
+
+using namespace platform;
+
+std::array<std::string, 13> DaySlots;
+std::string DayFilePath;
+std::string DayOfYearText;
+const std::array<std::string, 13> HourLabels = {"",      "06:00", "07:00", "08:00", "09:00",
+                                                "10:00", "11:00", "01:00", "02:00", "03:00",
+                                                "04:00", "05:00", "06:00"};
+
+namespace {
+
+// The day grid of the scheduling screen shows the open day beside DaySlots.
+Grid* DayGrid() {
+    Form* form = Forms::Existing("frmMain");
+    if (!form || !form->IsLoaded()) return nullptr;
+    Control* c = form->Find("fgHours");
+    return c && c->Type() == ControlType::Grid ? static_cast<Grid*>(c) : nullptr;
+}
+
+void ShowSlotInGrid(Grid* grid, int slot) {
+    if (grid && slot < grid->Rows() && grid->Cols() > 1)
+        grid->SetTextMatrix(slot, 1, DaySlots[static_cast<size_t>(slot)]);
+}
+
+}  // namespace
+
+std::string HourLabelShown(int slot) {
+    return HourLabels[static_cast<size_t>(slot)] + (slot <= 6 ? "am" : "pm");
+}
+
+int WorkingSlot(int position) {
+    return StartHour + position - 6;
+}
+
+void BuildDayPath(DateTime date, const std::string& team) {
+    const std::string year = std::to_string(DatePart("yyyy", date));
+    DayOfYearText = std::to_string(DatePart("y", date));
+    const std::string folder = "\\" + year + "\\Team#" + team;
+    if (!FolderExists(DataPath(folder))) MkDir(DataPath(folder));
+    DayFilePath = DataPath(folder + "\\" + DayOfYearText + ".txt");
+}
+
+void ClearDaySlots() {
+    Grid* grid = DayGrid();
+    for (int i = 1; i <= 12; ++i) {
+        DaySlots[static_cast<size_t>(i)] = kFreeSlot;
+        ShowSlotInGrid(grid, i);
+    }
+}
+
+void ShowDaySlots() {
+    Grid* grid = DayGrid();
+    if (grid && grid->Cols() > 1) {
+        grid->SetCol(1);
+        grid->SetColAlignment(1, 1);
+    }
+    if (!FileExists(DayFilePath)) return;
+    const int n = FreeFile();
+    Open(n, DayFilePath, OpenMode::Input);
+    for (int i = 1; i <= 12 && !Eof(n); ++i) {
+        DaySlots[static_cast<size_t>(i)] = InputString(n);
+        ShowSlotInGrid(grid, i);
+    }
+    Close(n);
+}
+
+void ReadDay(DateTime date, const std::string& team) {
+    ClearDaySlots();
+    BuildDayPath(date, team);
+    ShowDaySlots();
+}
+
+void WriteDay(DateTime date, const std::string& team) {
+    BuildDayPath(date, team);
+    const int n = FreeFile();
+    Open(n, DayFilePath, OpenMode::Output);
+    for (int i = 1; i <= 12; ++i) WriteFields(n, {Text(DaySlots[static_cast<size_t>(i)])});
+    CloseAll();
+}
+
+void ReadDayRaw() {
+    const int n = FreeFile();
+    Open(n, DayFilePath, OpenMode::Input);
+    for (int i = 0; i < 12; ++i) DaySlots[static_cast<size_t>(i)] = InputString(n);
+    Close(n);
+}
+
+void CheckDayFree(DateTime date, std::int16_t& conflict) {
+    ReadDay(date, CurrentTeam);
+    for (int i = 1; i <= 8; ++i) {
+        const std::string& slot = DaySlots[static_cast<size_t>(WorkingSlot(i))];
+        if (slot != kFreeSlot && !slot.empty()) {
+            conflict = -1;
+            break;
+        }
+    }
+    CloseAll();
+}
+
+void WriteDays(DateTime& date, int count, const std::string& text) {
+    for (int n = 1; n <= count; ++n) {
+        NextWorkday(date);
+        ReadDay(date, CurrentTeam);
+        for (int i = 1; i <= 8; ++i) DaySlots[static_cast<size_t>(WorkingSlot(i))] = text;
+        WriteDay(date, CurrentTeam);
+        date = date.AddDays(1);
+    }
+}
