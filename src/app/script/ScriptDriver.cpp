@@ -1,0 +1,389 @@
+#include "app/script/ScriptDriver.h"
+
+#include <fstream>
+#include <ostream>
+#include <sstream>
+
+#include "frame/SubMain.h"
+#include "platform/Controls.h"
+#include "platform/Files.h"
+#include "platform/Form.h"
+#include "platform/RuntimeError.h"
+#include "platform/Ui.h"
+
+using namespace platform;
+
+namespace {
+
+struct ScriptError : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+std::string Unescape(const std::string& text) {
+    std::string out;
+    for (size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\\' && i + 1 < text.size()) {
+            const char c = text[++i];
+            if (c == 'r')
+                out += '\r';
+            else if (c == 'n')
+                out += '\n';
+            else if (c == 't')
+                out += '\t';
+            else if (c == '\\')
+                out += '\\';
+            else
+                out += '\\', out += c;
+        } else {
+            out += text[i];
+        }
+    }
+    return out;
+}
+
+std::string Escape(const std::string& text) {
+    std::string out;
+    for (char c : text) {
+        if (c == '\r')
+            out += "\\r";
+        else if (c == '\n')
+            out += "\\n\n    ";
+        else if (c == '\t')
+            out += "\\t";
+        else
+            out += c;
+    }
+    return out;
+}
+
+// "form.control(3)" -> the control; "form" alone -> nullptr with the form.
+Control& FindControl(const std::string& target, Form*& form) {
+    const auto dot = target.find('.');
+    if (dot == std::string::npos) throw ScriptError("expected form.control: " + target);
+    const std::string formName = target.substr(0, dot);
+    if (!Forms::Known(formName)) throw ScriptError("no screen " + formName);
+    form = &Forms::Get(formName);
+    Control* control = form->Find(target.substr(dot + 1));
+    if (!control) throw ScriptError("no control " + target);
+    return *control;
+}
+
+Form& FindForm(const std::string& name) {
+    if (!Forms::Known(name)) throw ScriptError("no screen " + name);
+    return Forms::Get(name);
+}
+
+DateTime ParseWhen(const std::string& text) {
+    DateTime when;
+    if (!ParseDate(text, when)) throw ScriptError("not a date: " + text);
+    return when;
+}
+
+int Answer(const std::string& word) {
+    if (word == "Yes") return vbYes;
+    if (word == "No") return vbNo;
+    if (word == "Cancel") return vbCancel;
+    if (word == "OK") return vbOK;
+    throw ScriptError("unknown answer " + word);
+}
+
+void Require(bool ok, const std::string& what) {
+    if (!ok) throw ScriptError(what);
+}
+
+void Click(Control& c) {
+    Require(c.Visible() && c.Enabled(), c.Key() + " cannot be clicked: hidden or disabled");
+    switch (c.Type()) {
+        case ControlType::OptionButton:
+            static_cast<OptionButton&>(c).SetValue(true);
+            break;
+        case ControlType::CheckBox: {
+            auto& box = static_cast<CheckBox&>(c);
+            box.SetValue(box.Value() == 1 ? 0 : 1);
+            break;
+        }
+        default:
+            c.Raise("Click");
+            break;
+    }
+}
+
+void Choose(Control& c, const std::string& entry) {
+    Require(c.Visible() && c.Enabled(), c.Key() + " cannot be used: hidden or disabled");
+    Require(c.Type() == ControlType::ListBox || c.Type() == ControlType::ComboBox,
+            c.Key() + " is not a list");
+    auto& list = static_cast<ListControl&>(c);
+    int index = -1;
+    if (!entry.empty() && entry[0] == '#') {
+        index = std::stoi(entry.substr(1));
+    } else {
+        for (int i = 0; i < list.ListCount(); ++i)
+            if (list.List(i) == entry) index = i;
+    }
+    Require(index >= 0 && index < list.ListCount(), "no entry " + entry + " in " + c.Key());
+    if (c.Type() == ControlType::ListBox && static_cast<ListBox&>(c).MultiSelect()) {
+        auto& box = static_cast<ListBox&>(c);
+        box.SetSelected(index, !box.Selected(index));
+    } else {
+        list.SetListIndex(index);
+    }
+}
+
+}  // namespace
+
+ScriptDriver::ScriptDriver(std::string appFolder, std::ostream& out)
+    : appFolder_(std::move(appFolder)), out_(out) {
+    SetAppFolder(appFolder_);
+    SetProgramFileName("NorvaxConstructionScheduler");
+    SetBackend(&backend_);
+    ClearProgramEnded();
+    Forms::Reset();
+    backend_.SetModalDriver([this](Form& form) { DriveModal(form); });
+}
+
+ScriptDriver::~ScriptDriver() {
+    AbandonAll();
+    Forms::Reset();
+    SetBackend(nullptr);
+}
+
+int ScriptDriver::RunFile(const std::string& path) {
+    std::ifstream in(path);
+    if (!in) {
+        out_ << "cannot read " << path << "\n";
+        return 1;
+    }
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(in, line);) {
+        if (!line.empty() && line.back() == '\r') line.pop_back();
+        lines.push_back(line);
+    }
+    return Run(lines);
+}
+
+int ScriptDriver::Run(const std::vector<std::string>& lines) {
+    lines_ = lines;
+    next_ = 0;
+    while (next_ < lines_.size()) Next();
+    Flush();
+    return failures_;
+}
+
+void ScriptDriver::Next() {
+    const std::string line = lines_[next_++];
+    const auto first = line.find_first_not_of(" \t");
+    if (first == std::string::npos || line[first] == '#') return;
+    out_ << "> " << line.substr(first) << "\n";
+    if (ProgramHasEnded() && line.compare(first, 5, "start") != 0 &&
+        line.compare(first, 4, "file") != 0 && line.compare(first, 6, "exists") != 0 &&
+        line.compare(first, 3, "dir") != 0) {
+        out_ << "! the program has ended\n";
+        ++failures_;
+        return;
+    }
+    try {
+        Execute(line.substr(first));
+    } catch (const ScriptError& e) {
+        Flush();
+        out_ << "! " << e.what() << "\n";
+        ++failures_;
+    }
+    Flush();
+}
+
+void ScriptDriver::DriveModal(Form& form) {
+    Flush();
+    while (form.Visible() && !ProgramHasEnded() && next_ < lines_.size()) Next();
+}
+
+void ScriptDriver::Flush() {
+    const auto& log = backend_.Transcript();
+    for (; logged_ < log.size(); ++logged_) out_ << "  " << Escape(log[logged_]) << "\n";
+}
+
+void ScriptDriver::Execute(const std::string& line) {
+    std::istringstream in(line);
+    std::string verb, target;
+    in >> verb;
+    std::string rest;
+    std::getline(in, rest);
+    rest = rest.empty() ? rest
+                        : rest.substr(rest.find_first_not_of(' ') == std::string::npos
+                                          ? rest.size()
+                                          : rest.find_first_not_of(' '));
+    std::istringstream args(rest);
+    args >> target;
+    std::string tail;
+    std::getline(args, tail);
+    if (!tail.empty() && tail[0] == ' ') tail.erase(0, 1);
+    Form* form = nullptr;
+
+    auto user = [&](const std::function<void()>& action) { Dispatch(action); };
+
+    if (verb == "clock") {
+        backend_.SetNow(ParseWhen(rest));
+    } else if (verb == "start") {
+        ClearProgramEnded();
+        Forms::Reset();
+        RegisterScreens();
+        user([] { SubMain(); });
+    } else if (verb == "other-instance") {
+        backend_.SetOtherInstanceRunning(rest == "on");
+    } else if (verb == "answer") {
+        backend_.QueueAnswer(Answer(rest));
+    } else if (verb == "click") {
+        Control& c = FindControl(target, form);
+        user([&] { Click(c); });
+    } else if (verb == "dblclick") {
+        Control& c = FindControl(target, form);
+        Require(c.Visible() && c.Enabled(), c.Key() + " cannot be clicked: hidden or disabled");
+        user([&] {
+            if (c.Type() == ControlType::OptionButton)
+                static_cast<OptionButton&>(c).SetValue(true);
+            else if (c.Type() != ControlType::Label)
+                c.Raise("Click");
+            c.Raise("DblClick");
+        });
+    } else if (verb == "type") {
+        Control& c = FindControl(target, form);
+        Require(c.Visible() && c.Enabled(), c.Key() + " cannot take keys: hidden or disabled");
+        const std::string text = Unescape(tail);
+        user([&] {
+            if (c.Type() == ControlType::TextBox)
+                static_cast<TextBox&>(c).TypeText(text);
+            else if (c.Type() == ControlType::ComboBox)
+                static_cast<ComboBox&>(c).TypeText(text);
+            else
+                throw ScriptError(c.Key() + " takes no text");
+        });
+    } else if (verb == "clear") {
+        Control& c = FindControl(target, form);
+        user([&] {
+            if (c.Type() == ControlType::TextBox)
+                static_cast<TextBox&>(c).SetText("");
+            else if (c.Type() == ControlType::ComboBox)
+                static_cast<ComboBox&>(c).SetText("");
+        });
+    } else if (verb == "key") {
+        Control& c = FindControl(target, form);
+        const int key = std::stoi(tail);
+        user([&] {
+            if (c.Type() == ControlType::TextBox)
+                static_cast<TextBox&>(c).TypeKey(key);
+            else if (c.Type() == ControlType::ComboBox)
+                static_cast<ComboBox&>(c).TypeKey(key);
+        });
+    } else if (verb == "leave") {
+        Control& c = FindControl(target, form);
+        user([&] { c.Raise("LostFocus"); });
+    } else if (verb == "choose") {
+        Control& c = FindControl(target, form);
+        user([&] { Choose(c, tail); });
+    } else if (verb == "cell" || verb == "dblcell" || verb == "rightcell") {
+        Control& c = FindControl(target, form);
+        Require(c.Type() == ControlType::Grid, c.Key() + " is not a grid");
+        int row = 0, col = 0;
+        std::istringstream(tail) >> row >> col;
+        auto& grid = static_cast<Grid&>(c);
+        Require(row >= 0 && row < grid.Rows() && col >= 0 && col < grid.Cols(), "no such cell");
+        user([&] {
+            if (verb == "cell")
+                grid.UserClick(row, col, 1);
+            else if (verb == "rightcell")
+                grid.UserClick(row, col, 2);
+            else
+                grid.UserDoubleClick(row, col);
+        });
+    } else if (verb == "pick") {
+        Control& c = FindControl(target, form);
+        Require(c.Type() == ControlType::MonthView || c.Type() == ControlType::DatePicker,
+                c.Key() + " is no calendar");
+        const DateTime when = ParseWhen(tail);
+        user([&] { static_cast<DateControl&>(c).UserPick(when); });
+    } else if (verb == "up" || verb == "down") {
+        Control& c = FindControl(target, form);
+        Require(c.Type() == ControlType::UpDown, c.Key() + " is no spinner");
+        user([&] {
+            if (verb == "up")
+                static_cast<UpDown&>(c).UserUp();
+            else
+                static_cast<UpDown&>(c).UserDown();
+        });
+    } else if (verb == "tab") {
+        Control& c = FindControl(target, form);
+        Require(c.Type() == ControlType::Tab, c.Key() + " is no tab control");
+        const int tab = std::stoi(tail);
+        user([&] { static_cast<Tab&>(c).SetTab(tab); });
+    } else if (verb == "tick") {
+        Control& c = FindControl(target, form);
+        Require(c.Type() == ControlType::Timer, c.Key() + " is no timer");
+        user([&] { static_cast<Timer&>(c).Tick(); });
+    } else if (verb == "drag") {
+        Control& source = FindControl(target, form);
+        Form* targetForm = nullptr;
+        Control& onto = FindControl(tail, targetForm);
+        user([&] {
+            EventArgs e;
+            e.source = &source;
+            onto.Raise("DragDrop", e);
+        });
+    } else if (verb == "close") {
+        Form& f = FindForm(target);
+        user([&] { f.UserClose(); });
+    } else if (verb == "show") {
+        if (target.find('.') == std::string::npos) {
+            Form& f = FindForm(target);
+            out_ << "  " << f.Name() << ": Caption=" << f.Caption()
+                 << " Visible=" << (f.Visible() ? "True" : "False")
+                 << " Loaded=" << (f.IsLoaded() ? "True" : "False") << "\n";
+        } else {
+            Control& c = FindControl(target, form);
+            out_ << "  " << target << ":";
+            for (const auto& [name, value] : c.Properties())
+                out_ << " " << name << "=" << Escape(value);
+            out_ << "\n";
+        }
+    } else if (verb == "cells") {
+        Control& c = FindControl(target, form);
+        Require(c.Type() == ControlType::Grid, c.Key() + " is not a grid");
+        auto& grid = static_cast<Grid&>(c);
+        for (int r = 0; r < grid.Rows(); ++r) {
+            out_ << "  ";
+            for (int col = 0; col < grid.Cols(); ++col)
+                out_ << (col ? " | " : "") << grid.TextMatrix(r, col);
+            out_ << "\n";
+        }
+    } else if (verb == "write") {
+        const std::string path = target;
+        std::ofstream file(ResolvePath(AppFolder() + path), std::ios::binary);
+        Require(static_cast<bool>(file), "cannot write " + path);
+        file << Unescape(tail);
+    } else if (verb == "mkdir") {
+        std::error_code ec;
+        std::filesystem::create_directories(ResolvePath(AppFolder() + target), ec);
+    } else if (verb == "file") {
+        const std::string path = AppFolder() + target;
+        if (!FileExists(path)) {
+            out_ << "  " << target << ": missing\n";
+        } else {
+            std::ifstream file(ResolvePath(path), std::ios::binary);
+            std::stringstream ss;
+            ss << file.rdbuf();
+            out_ << "  " << target << ": " << Escape(ss.str()) << "\n";
+        }
+    } else if (verb == "exists") {
+        const std::string path = AppFolder() + target;
+        out_ << "  " << target << ": "
+             << (FileExists(path)     ? "file"
+                 : FolderExists(path) ? "folder"
+                                      : "missing")
+             << "\n";
+    } else if (verb == "dir") {
+        out_ << "  " << target << ":";
+        const bool folders = tail == "folders";
+        for (const auto& name : Dir(AppFolder() + target, folders)) out_ << " " << name;
+        out_ << "\n";
+    } else {
+        throw ScriptError("unknown action " + verb);
+    }
+}
