@@ -142,8 +142,8 @@ class PrinterObject {
     // Paints the picture file into the box.
     void PaintPicture(const std::string& picturePath, double x, double y, double width,
                       double height);
-    // Prints text at CurrentX, CurrentY in the present font and ForeColor. Lines of the text
-    // (CR LF) go one under the other, each starting at the present CurrentX.
+    // Prints text at CurrentX, CurrentY in the present font and ForeColor. A line break (CR LF)
+    // inside the text goes on at the left edge of the next line.
     void Print(std::string_view text = {}, PrintEnd end = PrintEnd::NextLine);
     void NewPage();
     // Ends the document and sends it to the device; nothing is sent when nothing was drawn.
