@@ -1,0 +1,102 @@
+#include <gtest/gtest.h>
+
+#include "frame/SubMain.h"
+#include "frame/frmStartup.h"
+#include "platform/Files.h"
+#include "platform/Form.h"
+#include "platform/Ui.h"
+#include "store/SharedState.h"
+#include "support/TestFolder.h"
+
+using namespace platform;
+using testing_support::TestFolder;
+
+namespace {
+
+class MainMenu : public ::testing::Test {
+protected:
+    void SetUp() override {
+        folder.Write("NorvaxConstructionSchedulerSettings.txt", "8\r\n5\r\n\"\"\r\n\"\"\r\n#TRUE#\r\n");
+        folder.Write("MyBusinessData.txt", "\"Acme\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\"\r\n");
+        folder.Write("Assignto.txt", "\"Crew A\"\r\n");
+    }
+    frmStartup& Start() {
+        Forms::Reset();
+        ClearProgramEnded();
+        RegisterScreens();
+        Dispatch([] { SubMain(); });
+        return Screen<frmStartup>();
+    }
+    TestFolder folder;
+};
+
+}  // namespace
+
+TEST_F(MainMenu, WithoutCustomersOnlyTheCustomerRoutineCanBeUsed) {
+    auto& menu = Start();
+    if (!menu.Visible()) GTEST_SKIP() << "set-up not complete in this folder";
+    EXPECT_EQ(folder.Ui().Boxes().back().prompt, "Create your 1st Customer Record Now");
+    for (int i = 0; i < 10; ++i) EXPECT_EQ(menu.optProgramRoutine[i]->Enabled(), i == 8) << i;
+    EXPECT_TRUE(menu.optProgramRoutine[8]->Value());
+    EXPECT_EQ(MenuRoutine, 9);
+}
+
+TEST_F(MainMenu, WithCustomersButNoProjectsTheProjectRoutinesAreOff) {
+    folder.Write("CustomerData.txt", std::string(328, ' '));
+    CallerIDEnabled = false;
+    auto& menu = Start();
+    if (!menu.Visible()) GTEST_SKIP() << "set-up not complete in this folder";
+    EXPECT_FALSE(menu.optProgramRoutine[9]->Enabled());
+    EXPECT_FALSE(menu.optProgramRoutine[3]->Enabled());
+    EXPECT_TRUE(menu.optProgramRoutine[2]->Enabled());
+    EXPECT_FALSE(menu.optProgramRoutine[5]->Visible());
+    EXPECT_TRUE(menu.optProgramRoutine[0]->Value());
+    EXPECT_EQ(MenuRoutine, 1);
+    folder.Write("ConstructionProjects/Pj12-1.txt", "");
+    menu.Hide();
+    Forms::Reset();
+    auto& again = Start();
+    EXPECT_TRUE(again.optProgramRoutine[9]->Enabled());
+}
+
+TEST_F(MainMenu, ARoutineWithoutItsScreenSaysSoAndStays) {
+    folder.Write("CustomerData.txt", std::string(328, ' '));
+    auto& menu = Start();
+    if (!menu.Visible()) GTEST_SKIP() << "set-up not complete in this folder";
+    folder.Ui().ClearLog();
+    Dispatch([&] { menu.optProgramRoutine[7]->Raise("DblClick"); });
+    EXPECT_EQ(MenuRoutine, 8);
+    ASSERT_EQ(folder.Ui().Boxes().size(), 1u);
+    EXPECT_EQ(folder.Ui().Boxes()[0].title, "Routine Not Available");
+    EXPECT_TRUE(menu.Visible());
+}
+
+TEST_F(MainMenu, ExitBacksUpTheDataFilesAndEnds) {
+    folder.Write("CustomerData.txt", std::string(328, 'c'));
+    auto& menu = Start();
+    Dispatch([&] { menu.mnuExit.Raise("Click"); });
+    EXPECT_TRUE(ProgramHasEnded());
+    EXPECT_EQ(folder.Read("Backup/CustomerData.txt"), std::string(328, 'c'));
+    EXPECT_EQ(folder.Read("Backup/MyBusinessData.txt"), folder.Read("MyBusinessData.txt"));
+    EXPECT_TRUE(Forms::Loaded().empty());
+}
+
+TEST_F(MainMenu, ClosingTheMenuWindowEndsTheProgramWithTheBackup) {
+    folder.Write("CustomerData.txt", std::string(328, 'c'));
+    auto& menu = Start();
+    Dispatch([&] { menu.UserClose(); });
+    EXPECT_TRUE(ProgramHasEnded());
+    EXPECT_TRUE(folder.Exists("Backup/CustomerData.txt"));
+}
+
+TEST_F(MainMenu, OpeningAnAddressWritesTheShortcutFile) {
+    auto& menu = Start();
+    folder.Ui().QueueAnswer(vbYes);
+    Dispatch([&] { menu.mnuGraytex.Raise("Click"); });
+    EXPECT_EQ(folder.Ui().Boxes().back().title, "Order Graytex Forms");
+    ASSERT_EQ(folder.Ui().OpenedUrls().size(), 1u);
+    EXPECT_EQ(folder.Read("Temp.url"), "[InternetShortcut]\r\nURL = " + folder.Ui().OpenedUrls()[0] + "\r\n");
+    folder.Ui().QueueAnswer(vbNo);
+    Dispatch([&] { menu.mnuDeluxe.Raise("Click"); });
+    EXPECT_EQ(folder.Ui().OpenedUrls().size(), 1u);
+}
