@@ -176,7 +176,8 @@ void ScriptDriver::Next() {
     out_ << "> " << line.substr(first) << "\n";
     if (ProgramHasEnded() && line.compare(first, 5, "start") != 0 &&
         line.compare(first, 4, "file") != 0 && line.compare(first, 6, "exists") != 0 &&
-        line.compare(first, 3, "dir") != 0) {
+        line.compare(first, 3, "dir") != 0 &&
+        line.compare(first, 6, "remove") != 0 && line.compare(first, 5, "write") != 0) {
         out_ << "! the program has ended\n";
         ++failures_;
         return;
@@ -358,6 +359,9 @@ void ScriptDriver::Execute(const std::string& line) {
         std::ofstream file(ResolvePath(AppFolder() + path), std::ios::binary);
         Require(static_cast<bool>(file), "cannot write " + path);
         file << Unescape(tail);
+    } else if (verb == "remove") {
+        std::error_code ec;
+        std::filesystem::remove(ResolvePath(AppFolder() + target), ec);
     } else if (verb == "mkdir") {
         std::error_code ec;
         std::filesystem::create_directories(ResolvePath(AppFolder() + target), ec);
