@@ -1,0 +1,88 @@
+#include "platform/qtdevices/QtDialogs.h"
+
+#include <QAbstractPrintDialog>
+#include <QApplication>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QFontDialog>
+#include <QPrintDialog>
+#include <QStringList>
+
+#include "platform/qtdevices/DocumentPainter.h"
+#include "platform/qtdevices/QtPrinterDevice.h"
+
+namespace platform {
+
+namespace {
+
+std::string ToAnsiPath(const QString& path) {
+    const QByteArray bytes = path.toLocal8Bit();
+    return std::string(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+}
+
+}  // namespace
+
+QString ToQtFilter(const std::string& filter) {
+    const QStringList parts =
+        QString::fromLocal8Bit(filter.data(), static_cast<qsizetype>(filter.size()))
+            .split(QLatin1Char('|'));
+    QStringList entries;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        QStringList patterns;
+        for (QString pattern : parts[i + 1].split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+            // Patterns written in brackets or with blanks still mean their files.
+            pattern.remove(QLatin1Char('(')).remove(QLatin1Char(')'));
+            pattern = pattern.trimmed();
+            if (!pattern.isEmpty()) patterns << pattern;
+        }
+        entries << parts[i].trimmed() + QStringLiteral(" (") + patterns.join(QLatin1Char(' ')) +
+                       QLatin1Char(')');
+    }
+    return entries.join(QStringLiteral(";;"));
+}
+
+ColorAnswer QtDialogs::ChooseColor(std::int32_t current) {
+    const QColor chosen = QColorDialog::getColor(ToQColor(current), QApplication::activeWindow());
+    if (!chosen.isValid()) return {false, current};
+    return {true, chosen.red() | (chosen.green() << 8) | (chosen.blue() << 16)};
+}
+
+FontAnswer QtDialogs::ChooseFont(const std::string& current, double size, bool printerFonts) {
+    PrintFont start;
+    start.name = current;
+    start.size = size > 0 ? size : 10;
+    bool ok = false;
+    const QFont chosen = QFontDialog::getFont(&ok, ToQFont(start), QApplication::activeWindow());
+    FontAnswer answer;
+    answer.accepted = ok;
+    answer.name = ok ? chosen.family().toStdString() : current;
+    answer.size = ok ? chosen.pointSizeF() : size;
+    answer.bold = ok && chosen.bold();
+    answer.italic = ok && chosen.italic();
+    return answer;
+}
+
+FileAnswer QtDialogs::ChooseOpenFile(const std::string& title, const std::string& filter,
+                                     const std::string& initialDir) {
+    const QString file = QFileDialog::getOpenFileName(
+        QApplication::activeWindow(), QString::fromStdString(title.empty() ? "Open" : title),
+        QString::fromLocal8Bit(initialDir.data(), static_cast<qsizetype>(initialDir.size())),
+        ToQtFilter(filter));
+    if (file.isEmpty()) return {};
+    return {true, ToAnsiPath(file)};
+}
+
+PrinterAnswer QtDialogs::ChoosePrinter(int flags, int copies) {
+    QPrinter& printer = printer_.Device();
+    printer.setCopyCount(copies);
+    printer.setCollateCopies((flags & cdlPDCollate) != 0);
+    QPrintDialog dialog(&printer, QApplication::activeWindow());
+    // Printing to a PDF file stays on offer: many offices have no printer on this machine.
+    dialog.setOption(QAbstractPrintDialog::PrintToFile, true);
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange, (flags & cdlPDNoPageNums) == 0);
+    dialog.setOption(QAbstractPrintDialog::PrintCollateCopies, true);
+    if (dialog.exec() != QDialog::Accepted) return {false, copies};
+    return {true, printer.copyCount() < 1 ? 1 : printer.copyCount()};
+}
+
+}  // namespace platform

@@ -1,0 +1,106 @@
+#include <QApplication>
+#include <QImage>
+#include <QPainter>
+#include <cstdlib>
+#include <fstream>
+
+#include "platform/qtdevices/DocumentPainter.h"
+#include "platform/qtdevices/QtDevices.h"
+#include "printing/GenericForm.h"
+#include "printing/PrinterRoutines.h"
+#include "printing/PrintingFixture.h"
+
+namespace printing_tests {
+namespace {
+
+using platform::Printer;
+using platform::RecordingPrinter;
+
+constexpr double kDpi = 60;
+int Px(double twips) {
+    return static_cast<int>(twips * kDpi / 1440 + 0.5);
+}
+
+class PdfOutputTest : public PrintingTest {
+  protected:
+    PdfOutputTest() {
+        // A logo: a filled orange disc on white.
+        QImage logo(200, 200, QImage::Format_RGB32);
+        logo.fill(Qt::white);
+        QPainter painter(&logo);
+        painter.setBrush(QColor(255, 140, 0));
+        painter.drawEllipse(10, 10, 180, 180);
+        painter.end();
+        logoPath = (folder.Path() / "logo.png").string();
+        logo.save(QString::fromStdString(logoPath));
+        setup->Image2.SetPicture(logoPath);
+        setup->Image3.SetPicture(logoPath);
+        setup->Image3.Move(0, 0, 1440, 1440);
+    }
+
+    static QImage Rendered(const platform::PrintedPage& page) {
+        QImage image(Px(page.width), Px(page.height), QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        platform::PaintPage(painter, page, kDpi, true);
+        painter.end();
+        return image;
+    }
+
+    std::string logoPath;
+};
+
+bool Inked(const QImage& image, int x, int y) {
+    return QColor(image.pixel(x, y)).lightness() < 230;
+}
+
+TEST_F(PdfOutputTest, GenericFormPageGoesToPdfWithItsBoxesWhereTheTwipsSay) {
+    InitPrinter("Portrait", true);
+    SetPrintFont(10, false, false);
+    PrintLogo(0);
+    StartGenericForm(true, "WORK ORDER", 0.4f);
+    PrintAddressBlock("Jane Doe", "5 Elm Road", "", "Dayton", "OH", "45402", 2.3f);
+    Printer().EndDoc();
+    const auto& document = RecordingPrinter().LastDocument();
+    ASSERT_EQ(document.pages.size(), 1u);
+
+    const std::string pdf = std::string(PDF_OUTPUT_DIR) + "/generic-form.pdf";
+    platform::WriteDocumentPdf(document, pdf);
+    std::ifstream in(pdf, std::ios::binary);
+    std::string head(5, '\0');
+    in.read(head.data(), 5);
+    EXPECT_EQ(head, "%PDF-");
+
+    // The same page painted small: frame lines are inked where the twips put them, and
+    // the space between them is blank.
+    const QImage page = Rendered(document.pages[0]);
+    EXPECT_TRUE(Inked(page, Px(6000), Px(5760)));   // top line of the body
+    EXPECT_TRUE(Inked(page, Px(6000), Px(14400)));  // bottom line
+    EXPECT_TRUE(Inked(page, Px(1800), Px(9000)));   // a column line
+    EXPECT_TRUE(Inked(page, Px(10080), Px(13000)));
+    EXPECT_FALSE(Inked(page, Px(9000), Px(13000)));     // inside the total box, below 12240
+    EXPECT_TRUE(Inked(page, Px(360), Px(2000)));        // left side of the top box
+    EXPECT_TRUE(Inked(page, Px(6120), Px(144 + 720)));  // the logo's centre
+    EXPECT_EQ(QColor(page.pixel(Px(6120), Px(144 + 720))).red(), 255);
+}
+
+TEST_F(PdfOutputTest, PrintSampleIsALogoAloneOnItsPage) {
+    InitPrinter("Portrait", true);
+    PrintLogo(0);
+    Printer().EndDoc();
+    const std::string pdf = std::string(PDF_OUTPUT_DIR) + "/print-sample.pdf";
+    platform::WriteDocumentPdf(RecordingPrinter().LastDocument(), pdf);
+    std::ifstream in(pdf, std::ios::binary);
+    EXPECT_TRUE(in.good());
+}
+
+}  // namespace
+}  // namespace printing_tests
+
+int main(int argc, char** argv) {
+    // gtest_discover_tests runs this binary at build time, often without a display.
+    if (!std::getenv("QT_QPA_PLATFORM")) setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    QApplication application(argc, argv);
+    ::testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
