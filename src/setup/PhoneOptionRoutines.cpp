@@ -1,0 +1,73 @@
+#include "setup/PhoneOptionRoutines.h"
+
+#include <cmath>
+
+#include "platform/Files.h"
+#include "platform/RuntimeError.h"
+#include "setup/SetupHooks.h"
+#include "setup/frmSetup.h"
+#include "store/BasicDiskRoutines.h"
+#include "store/SharedState.h"
+
+using namespace platform;
+
+namespace {
+
+constexpr const char* kPhoneFile = "/Phone.txt";
+constexpr const char* kCallerIDFile = "/CallID.txt";
+
+std::int16_t ToPort(double value) {
+    const double rounded = std::nearbyint(value);
+    if (rounded < -32768 || rounded > 32767) Raise(6, kPhoneFile);  // Overflow
+    return static_cast<std::int16_t>(rounded);
+}
+
+}  // namespace
+
+void StartPhoneOptions(frmSetup& form) {
+    const bool probed = static_cast<bool>(ProbeModemHook);
+    if (probed) ProbeModemHook();
+    if (!FindFile(kPhoneFile)) {
+        form.ckPhone.SetValue(0);
+        PhoneConnected = false;
+    } else {
+        OpenForInput(kPhoneFile);
+        const int file = MainFileNo;
+        PhoneConnected = InputBool(file);
+        ModemPort = ToPort(InputNumber(file));
+        CloseAll();
+        // The page keeps a probed port; without a probe it shows the one stored.
+        if (!probed) form.txtModemPort.SetText(std::to_string(ModemPort));
+        if (PhoneConnected) form.ckPhone.SetValue(1);
+    }
+    LoadCallerIDOption(form);
+}
+
+void LoadCallerIDOption(frmSetup& form) {
+    if (FindFile(kCallerIDFile)) {
+        OpenForInput(kCallerIDFile);
+        CallerIDEnabled = InputBool(MainFileNo);
+        CloseAll();
+    }
+    // Whatever the stored value, the page shows caller ID in use.
+    form.lblCallid.SetVisible(true);
+    form.ckCallerID.SetValue(1);
+}
+
+void SavePhoneOptions(frmSetup& form) {
+    PhoneConnected = form.ckPhone.Value() == 1;
+    DeleteFile(kPhoneFile);
+    OpenForOutput(kPhoneFile);
+    const int file = MainFileNo;
+    WriteFields(file, {PhoneConnected});
+    WriteFields(file, {double(ModemPort)});
+    CloseAll();
+    SaveCallerIDOption();
+}
+
+void SaveCallerIDOption() {
+    DeleteFile(kCallerIDFile);
+    OpenForOutput(kCallerIDFile);
+    WriteFields(MainFileNo, {CallerIDEnabled});
+    CloseAll();
+}

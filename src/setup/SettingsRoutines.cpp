@@ -1,0 +1,160 @@
+#include "setup/SettingsRoutines.h"
+
+#include <cmath>
+
+#include "platform/Files.h"
+#include "platform/RuntimeError.h"
+#include "schedule/Teams.h"
+#include "setup/AssignmentRoutines.h"
+#include "setup/BusinessRoutines.h"
+#include "setup/CharacteristicsRoutines.h"
+#include "setup/PhoneOptionRoutines.h"
+#include "setup/ScreenLinks.h"
+#include "setup/frmSetup.h"
+#include "store/BasicDiskRoutines.h"
+#include "store/SharedState.h"
+
+using namespace platform;
+
+namespace {
+
+constexpr const char* kPromptsFile = "/Prompts.txt";
+// The name the settings file had in the program's first edition; the delete before each
+// save still uses it.
+constexpr const char* kFixedSettingsName = "\\ConstructionSchedulerSettings.txt";
+
+std::uint8_t ToByte(double value) {
+    const double rounded = std::nearbyint(value);
+    if (rounded < 0 || rounded > 255) Raise(6, SettingsFilePath());  // Overflow
+    return static_cast<std::uint8_t>(rounded);
+}
+
+}  // namespace
+
+std::string SettingsFilePath() {
+    return "/" + ProgramFileName() + "Settings.txt";
+}
+
+void LoadConstructionSettings(frmSetup& form) {
+    const std::string path = SettingsFilePath();
+    if (FindFile(path)) {
+        OpenForInput(path);
+        const int file = MainFileNo;
+        StartHour = ToByte(InputNumber(file));
+        WorkWeek = ToByte(InputNumber(file));
+        InputString(file);  // two reserved values
+        InputString(file);
+        DaysDefault = InputBool(file);
+    } else {
+        StartHour = 8;
+        WorkWeek = 5;
+        DaysDefault = true;
+    }
+    CloseAll();
+
+    if (StartHour == 7)
+        form.ck7.SetValue(true);
+    else
+        form.ck8.SetValue(true);
+
+    switch (WorkWeek) {
+        case 5:
+            form.optMF.SetValue(true);
+            break;
+        case 61:
+            form.optMS.SetValue(true);
+            break;
+        case 62:
+            form.optSF.SetValue(true);
+            break;
+        case 7:
+            form.optSS.SetValue(true);
+            break;
+        default:
+            WorkWeek = 5;
+            form.optMF.SetValue(true);
+            break;
+    }
+
+    const bool days = DaysDefault;
+    form.ckDays.SetValue(days ? 1 : 0);
+    DaysDefault = days;
+    if (OptionButton* unit = OptionOnScreen("frmMain", days ? "optSelect(1)" : "optSelect(0)"))
+        unit->SetValue(true);
+}
+
+void SaveConstructionSettings(frmSetup& form) {
+    const std::string path = SettingsFilePath();
+    if (FindFile(path)) DeleteEverywhere(kFixedSettingsName);
+    OpenForOutput(path);
+    const int file = MainFileNo;
+    WriteFields(file, {double(StartHour)});
+    WriteFields(file, {double(WorkWeek)});
+    WriteFields(file, {Text("")});
+    WriteFields(file, {Text("")});
+    WriteFields(file, {DaysDefault});
+    CloseAll();
+    LoadConstructionSettings(form);
+}
+
+void LoadPrompts(frmSetup& form) {
+    if (FindFile(kPromptsFile)) {
+        OpenForInput(kPromptsFile);
+        const int file = MainFileNo;
+        ShowPrompts = InputBool(file);
+        SoundAlarms = InputBool(file);
+        CloseAll();
+    } else {
+        ShowPrompts = true;
+        SoundAlarms = true;
+    }
+    const bool prompts = ShowPrompts;
+    const bool alarms = SoundAlarms;
+    form.ckPrompts.SetValue(prompts ? 1 : 0);
+    form.ckAlarms.SetValue(alarms ? 1 : 0);
+    ShowPrompts = prompts;
+    SoundAlarms = alarms;
+}
+
+void SavePrompts() {
+    DeleteFile(kPromptsFile);
+    OpenForOutput(kPromptsFile);
+    WriteFields(MainFileNo, {ShowPrompts, SoundAlarms});
+    CloseAll();
+}
+
+void SaveSetupData(frmSetup& form) {
+    SaveBusinessData(form);
+    ReloadBusinessData(form);
+
+    SaveAssignments(form);
+    LoadAssignments();
+    LoadTeamLists(form);
+
+    SavePhoneOptions(form);
+    SaveConstructionSettings(form);
+    SavePrompts();
+    LoadConstructionSettings(form);
+
+    if (form.cboMilestones.ListCount() > 0) {
+        SaveCharacteristics(form);
+        LoadCharacteristics(form);
+        if (form.cboMilestones.ListCount() > 0) {
+            SaveCharacteristics(form);
+            LoadCharacteristics(form);
+        }
+    } else {
+        // An empty list never reaches the disk.
+        AlarmBeep();
+    }
+
+    SavePrintColors(form);
+}
+
+bool CheckRequiredFiles() {
+    for (const std::string& path :
+         {SettingsFilePath(), std::string("\\MyBusinessData.txt"), std::string(kAssignmentsFile),
+          std::string(kCharacteristicsFile)})
+        if (!FindFile(path)) return false;
+    return true;
+}
