@@ -6,6 +6,7 @@
 
 #include "platform/qtdevices/DocumentPainter.h"
 #include "platform/qtdevices/QtDevices.h"
+#include "platform/qtdevices/QtDialogs.h"
 #include "printing/GenericForm.h"
 #include "printing/PrinterRoutines.h"
 #include "printing/PrintingFixture.h"
@@ -92,6 +93,30 @@ TEST_F(PdfOutputTest, PrintSampleIsALogoAloneOnItsPage) {
     platform::WriteDocumentPdf(RecordingPrinter().LastDocument(), pdf);
     std::ifstream in(pdf, std::ios::binary);
     EXPECT_TRUE(in.good());
+}
+
+TEST_F(PdfOutputTest, PagesKeepTheirOwnOrientation) {
+    InitPrinter("Landscape", true);
+    SetPrintPosition(1.0f, 0.3f);
+    Printer().Print("Daily Work Schedule");
+    Printer().Line(1000, 1520, 10300, 1520, 0);
+    Printer().NewPage();
+    Printer().SetOrientation(platform::vbPRORPortrait);
+    Printer().Print("Second page");
+    Printer().EndDoc();
+    const auto& document = RecordingPrinter().LastDocument();
+    ASSERT_EQ(document.pages.size(), 2u);
+    const QImage landscape = Rendered(document.pages[0]);
+    EXPECT_EQ(landscape.width(), Px(15840));
+    EXPECT_TRUE(Inked(landscape, Px(10000), Px(1520)));
+    platform::WriteDocumentPdf(document, std::string(PDF_OUTPUT_DIR) + "/two-pages.pdf");
+}
+
+TEST(QtFilterTest, TheLogoFilterOffersItsPictures) {
+    EXPECT_EQ(platform::ToQtFilter("Pictures |(*.bmp;*.BMP;*.ico;*.ICO; *.cur; *.CUR;*jpg;*JPG; "
+                                   "*.EMF)|All|*.*")
+                  .toStdString(),
+              "Pictures (*.bmp *.BMP *.ico *.ICO *.cur *.CUR *jpg *JPG *.EMF);;All (*.*)");
 }
 
 }  // namespace
