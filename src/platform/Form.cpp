@@ -48,6 +48,7 @@ void Form::Load() {
     if (loaded_) return;
     loaded_ = true;
     Forms::LoadedNow(*this);
+    Ui().FormLoaded(*this);
     Raise("Form.Load");
 }
 
@@ -153,6 +154,12 @@ void Forms::RegisterFactory(const std::string& name, Factory factory) {
 
 bool Forms::Known(const std::string& name) {
     return Reg().factories.count(name) > 0;
+}
+
+std::vector<std::string> Forms::Names() {
+    std::vector<std::string> names;
+    for (const auto& [name, factory] : Reg().factories) names.push_back(name);
+    return names;
 }
 
 Form& Forms::Get(const std::string& name) {

@@ -85,6 +85,7 @@ class Forms {
     using Factory = std::function<std::unique_ptr<Form>()>;
     static void RegisterFactory(const std::string& name, Factory factory);
     static bool Known(const std::string& name);
+    static std::vector<std::string> Names();  // every registered screen, in name order
     static Form& Get(const std::string& name);
     static Form* Existing(const std::string& name);
     static std::vector<Form*> Loaded();  // in load order

@@ -34,6 +34,8 @@ class Backend {
     // Waits until the form is hidden or unloaded.
     virtual void RunModal(Form& form) = 0;
     virtual void DoEvents() = 0;
+    // Before Form_Load runs: the desktop builds the window, hidden, so timers of loaded forms run.
+    virtual void FormLoaded(Form& form) {}
     virtual void FormShown(Form& form) {}
     virtual void FormHidden(Form& form) {}
     virtual void FormUnloaded(Form& form) {}
