@@ -62,7 +62,7 @@ void SubMain() {
 
 void BuildFolderTree() {
     const std::string year = std::to_string(Today().Year());
-    for (const std::string folder :
+    for (const std::string& folder :
          {"/" + year, std::string("/Templates"), std::string("/NIActiveAccounts"),
           std::string("/Backup"), std::string("/Backup/NIActiveAccounts"),
           std::string("/Backup/NIActiveAccountsBACK"), std::string("/AuxFiles")})
@@ -135,7 +135,7 @@ void CheckYearFolders() {
 
 void DeletePreviousYear() {
     const std::string year = std::to_string(std::stoi(CurrentYearText) - 1);
-    for (const std::string root : {"\\" + year, "\\Backup\\" + year}) {
+    for (const std::string& root : {"\\" + year, "\\Backup\\" + year}) {
         if (!FolderExists(DataPath(root))) continue;
         for (int n = 1; n <= TeamCount(); ++n)
             DeleteFile(root + "\\Team#" + std::to_string(n) + "\\*.*");

@@ -2,6 +2,7 @@
 
 #include "frame/Navigation.h"
 #include "platform/Files.h"
+#include "platform/Ui.h"
 #include "store/BasicDiskRoutines.h"
 #include "store/SharedState.h"
 

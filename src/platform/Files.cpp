@@ -10,6 +10,9 @@
 #include <map>
 #include <memory>
 #include <system_error>
+#include <unordered_map>
+
+#include <sys/stat.h>
 
 #include <unistd.h>
 
@@ -41,15 +44,6 @@ std::string Normalise(const std::string& path) {
     }
     while (out.size() > 1 && out.back() == '/') out.pop_back();
     return out;
-}
-
-bool SameNoCase(std::string_view a, std::string_view b) {
-    if (a.size() != b.size()) return false;
-    for (size_t i = 0; i < a.size(); ++i)
-        if (std::tolower(static_cast<unsigned char>(a[i])) !=
-            std::tolower(static_cast<unsigned char>(b[i])))
-            return false;
-    return true;
 }
 
 std::string TrimBlanksRight(std::string_view s) {
@@ -168,50 +162,108 @@ void SetProgramFileName(const std::string& name) {
     ProgramName() = name;
 }
 
-fs::path ResolvePath(const std::string& path) {
+namespace {
+
+// What a path names on disk: nothing, a file or a folder.
+enum class Kind { None, File, Folder };
+
+Kind KindOf(const std::string& path, struct stat* info = nullptr) {
+    struct stat st {};
+    if (::stat(path.c_str(), &st) != 0) return Kind::None;
+    if (info) *info = st;
+    return S_ISDIR(st.st_mode) ? Kind::Folder : S_ISREG(st.st_mode) ? Kind::File : Kind::None;
+}
+
+// Names of a folder, by their lower-case spelling, kept while the folder does not change.
+struct FolderNames {
+    struct timespec modified {};
+    std::unordered_map<std::string, std::string> byLowerCase;
+};
+
+std::string Lower(std::string_view s) {
+    std::string out(s);
+    for (auto& c : out) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return out;
+}
+
+// The real spelling of `name` in `folder`, when it differs only by case; empty when none.
+std::string SpellingIn(const std::string& folder, const std::string& name) {
+    static std::unordered_map<std::string, FolderNames> cache;
+    struct stat st {};
+    if (KindOf(folder, &st) != Kind::Folder) return {};
+    FolderNames& names = cache[folder];
+    if (names.modified.tv_sec != st.st_mtim.tv_sec ||
+        names.modified.tv_nsec != st.st_mtim.tv_nsec || names.byLowerCase.empty()) {
+        names.byLowerCase.clear();
+        std::error_code ec;
+        for (const auto& entry : fs::directory_iterator(folder, ec)) {
+            const std::string real = entry.path().filename().string();
+            names.byLowerCase.emplace(Lower(real), real);
+        }
+        names.modified = st.st_mtim;
+    }
+    auto it = names.byLowerCase.find(Lower(name));
+    return it == names.byLowerCase.end() ? std::string() : it->second;
+}
+
+// The path as it is spelled on disk: exact when it exists, otherwise matched component by
+// component without regard to case, from the program folder down when it lies below it.
+std::string ResolveText(const std::string& path, Kind* kind = nullptr) {
     const std::string norm = Normalise(path);
-    std::error_code ec;
-    fs::path exact(norm);
-    if (fs::exists(exact, ec)) return exact;
-    // Walk the components and take, where the exact name is missing, one that differs by case.
-    fs::path current = norm.starts_with('/') ? fs::path("/") : fs::path();
-    size_t start = norm.starts_with('/') ? 1 : 0;
+    Kind found = KindOf(norm);
+    if (found != Kind::None) {
+        if (kind) *kind = found;
+        return norm;
+    }
+    if (kind) *kind = Kind::None;
+    // Below the program folder the walk starts there: that folder is spelled as given.
+    const std::string& app = AppFolderText();
+    std::string current = norm.starts_with('/') ? "" : ".";
+    size_t start = 0;
+    if (!app.empty() && norm.size() > app.size() && norm.compare(0, app.size(), app) == 0 &&
+        norm[app.size()] == '/') {
+        current = app;
+        start = app.size();
+    }
     bool matching = true;
-    while (start <= norm.size()) {
+    while (start < norm.size()) {
+        if (norm[start] == '/') ++start;
         size_t slash = norm.find('/', start);
         if (slash == std::string::npos) slash = norm.size();
-        std::string part = norm.substr(start, slash - start);
-        start = slash + 1;
+        const std::string part = norm.substr(start, slash - start);
+        start = slash;
         if (part.empty()) continue;
-        fs::path next = current / part;
-        if (matching && !fs::exists(next, ec)) {
-            bool found = false;
-            if (fs::is_directory(current.empty() ? fs::path(".") : current, ec)) {
-                for (const auto& entry :
-                     fs::directory_iterator(current.empty() ? fs::path(".") : current, ec)) {
-                    const std::string name = entry.path().filename().string();
-                    if (SameNoCase(name, part)) {
-                        next = current / name;
-                        found = true;
-                        break;
-                    }
-                }
-            }
-            if (!found) matching = false;
+        const std::string parent = current.empty() ? "/" : current;
+        std::string next = current + "/" + part;
+        if (matching && KindOf(next) == Kind::None) {
+            const std::string real = SpellingIn(parent, part);
+            if (real.empty())
+                matching = false;
+            else
+                next = current + "/" + real;
         }
         current = next;
     }
+    if (kind && matching) *kind = KindOf(current);
     return current;
 }
 
+}  // namespace
+
+fs::path ResolvePath(const std::string& path) {
+    return fs::path(ResolveText(path));
+}
+
 bool FileExists(const std::string& path) {
-    std::error_code ec;
-    return fs::is_regular_file(Resolved(path), ec);
+    Kind kind;
+    ResolveText(path, &kind);
+    return kind == Kind::File;
 }
 
 bool FolderExists(const std::string& path) {
-    std::error_code ec;
-    return fs::is_directory(Resolved(path), ec);
+    Kind kind;
+    ResolveText(path, &kind);
+    return kind == Kind::Folder;
 }
 
 bool WildcardMatch(std::string_view name, std::string_view pattern) {

@@ -37,7 +37,8 @@ TEST_P(Scenario, TranscriptMatches) {
     const fs::path script = fs::path(SCENARIO_DIR) / (GetParam() + ".script");
     const fs::path expected = fs::path(SCENARIO_DIR) / (GetParam() + ".expected");
     std::random_device rd;
-    const fs::path folder = fs::temp_directory_path() / ("scheduler-scenario-" + std::to_string(rd()));
+    const fs::path folder =
+        fs::temp_directory_path() / ("scheduler-scenario-" + std::to_string(rd()));
     fs::create_directories(folder);
     std::ostringstream out;
     int failures = 0;
@@ -51,10 +52,9 @@ TEST_P(Scenario, TranscriptMatches) {
     EXPECT_EQ(out.str(), ReadAll(expected));
 }
 
-INSTANTIATE_TEST_SUITE_P(Scripts, Scenario, ::testing::ValuesIn(Scenarios()),
-                         [](const auto& info) {
-                             std::string name = info.param;
-                             for (auto& c : name)
-                                 if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
-                             return name;
-                         });
+INSTANTIATE_TEST_SUITE_P(Scripts, Scenario, ::testing::ValuesIn(Scenarios()), [](const auto& test) {
+    std::string name = test.param;
+    for (auto& c : name)
+        if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
+    return name;
+});

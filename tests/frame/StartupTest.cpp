@@ -43,12 +43,12 @@ std::string MeetingRecord(const std::string& date) {
 TEST(Startup, AFirstRunBuildsTheTreeAndLeadsToTheWelcomePage) {
     TestFolder folder(DateTime::FromYmdHms(2026, 3, 2, 9, 0, 0));
     Start();
-    for (const char* f : {"2026", "Templates", "NIActiveAccounts", "Backup", "Backup/NIActiveAccounts",
-                          "Backup/NIActiveAccountsBACK", "AuxFiles", "NorvaxConstructionScheduler",
-                          "NorvaxInvoicer/IncompleteInvoices", "Backup/ConstructionProjects",
-                          "Backup/NorvaxConstructionScheduler", "ConstructionProjects", "Documents/Projects",
-                          "Documents/Contracts", "Documents/Work Orders", "Backup/2026", "Backup/2027",
-                          "Backup/2028"})
+    for (const char* f : {"2026", "Templates", "NIActiveAccounts", "Backup",
+                          "Backup/NIActiveAccounts", "Backup/NIActiveAccountsBACK", "AuxFiles",
+                          "NorvaxConstructionScheduler", "NorvaxInvoicer/IncompleteInvoices",
+                          "Backup/ConstructionProjects", "Backup/NorvaxConstructionScheduler",
+                          "ConstructionProjects", "Documents/Projects", "Documents/Contracts",
+                          "Documents/Work Orders", "Backup/2026", "Backup/2027", "Backup/2028"})
         EXPECT_TRUE(folder.Exists(f)) << f;
     EXPECT_FALSE(folder.Exists("2027"));  // day 61: next year not yet
     EXPECT_TRUE(Dir(AppFolder() + "/2026/*", true).empty());
@@ -100,7 +100,8 @@ TEST(Startup, AYearHoldingADeletedTeamsFolderFailsEveryStart) {
         Start();
         EXPECT_TRUE(ProgramHasEnded());
         ASSERT_FALSE(folder.Ui().Boxes().empty());
-        EXPECT_NE(folder.Ui().Boxes().back().prompt.find("Path/File access error"), std::string::npos);
+        EXPECT_NE(folder.Ui().Boxes().back().prompt.find("Path/File access error"),
+                  std::string::npos);
         EXPECT_FALSE(folder.Exists("PurgedDate.txt"));  // nothing after the failure
     }
 }
@@ -109,7 +110,8 @@ TEST(Startup, PurgeDeletesPastDaysOfThisYearOnly) {
     TestFolder folder(DateTime::FromYmdHms(2026, 2, 3, 9, 0, 0));  // day 34
     WriteRequiredFiles(folder, "\"Crew A\"\r\n");
     folder.Write("PurgedDate.txt", "30\r\n");
-    for (int day : {29, 30, 33, 34}) folder.Write("2026/Team#1/" + std::to_string(day) + ".txt", "x");
+    for (int day : {29, 30, 33, 34})
+        folder.Write("2026/Team#1/" + std::to_string(day) + ".txt", "x");
     folder.Write("Backup/2026/Team#1/31.txt", "x");
     Start();
     EXPECT_TRUE(folder.Exists("2026/Team#1/29.txt"));  // before the last purge
@@ -133,8 +135,8 @@ TEST(Startup, APurgeOnTheSecondOfJanuaryAfterNewYearsEveDeletesNothing) {
 TEST(Startup, PastMeetingsArePurgedAndTheBackupCopyGoes) {
     TestFolder folder(DateTime::FromYmdHms(2026, 6, 15, 9, 0, 0));
     WriteRequiredFiles(folder, "\"Crew A\"\r\n");
-    folder.Write("Meetings.txt",
-                 MeetingRecord("6/14/2026") + MeetingRecord("6/15/2026") + MeetingRecord("1/2/2027"));
+    folder.Write("Meetings.txt", MeetingRecord("6/14/2026") + MeetingRecord("6/15/2026") +
+                                     MeetingRecord("1/2/2027"));
     folder.Write("Backup/Meetings.txt", "old");
     Start();
     EXPECT_EQ(folder.Read("Meetings.txt"), MeetingRecord("6/15/2026") + MeetingRecord("1/2/2027"));

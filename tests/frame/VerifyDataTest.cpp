@@ -10,10 +10,11 @@ using testing_support::TestFolder;
 
 namespace {
 class FieldForm : public Form {
-public:
+  public:
     static constexpr const char* kName = "frmField";
     FieldForm() : Form(kName) {
-        On("txtField.KeyPress", [this](EventArgs& e) { e.keyAscii = CheckKey(e.keyAscii, txtField); });
+        On("txtField.KeyPress",
+           [this](EventArgs& e) { e.keyAscii = CheckKey(e.keyAscii, txtField); });
     }
     TextBox txtField{*this, "txtField"};
 };

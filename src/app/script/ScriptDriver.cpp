@@ -47,7 +47,7 @@ std::string Escape(const std::string& text) {
         if (c == '\r')
             out += "\\r";
         else if (c == '\n')
-            out += "\\n\n    ";
+            out += "\\n";
         else if (c == '\t')
             out += "\\t";
         else
@@ -176,8 +176,8 @@ void ScriptDriver::Next() {
     out_ << "> " << line.substr(first) << "\n";
     if (ProgramHasEnded() && line.compare(first, 5, "start") != 0 &&
         line.compare(first, 4, "file") != 0 && line.compare(first, 6, "exists") != 0 &&
-        line.compare(first, 3, "dir") != 0 &&
-        line.compare(first, 6, "remove") != 0 && line.compare(first, 5, "write") != 0) {
+        line.compare(first, 3, "dir") != 0 && line.compare(first, 6, "remove") != 0 &&
+        line.compare(first, 5, "write") != 0) {
         out_ << "! the program has ended\n";
         ++failures_;
         return;
@@ -218,6 +218,8 @@ void ScriptDriver::Execute(const std::string& line) {
     std::getline(args, tail);
     if (!tail.empty() && tail[0] == ' ') tail.erase(0, 1);
     Form* form = nullptr;
+    // Actions on one path take the whole rest of the line: folder names may hold blanks.
+    if (verb == "file" || verb == "exists" || verb == "remove" || verb == "mkdir") target = rest;
 
     auto user = [&](const std::function<void()>& action) { Dispatch(action); };
 
@@ -356,6 +358,8 @@ void ScriptDriver::Execute(const std::string& line) {
         }
     } else if (verb == "write") {
         const std::string path = target;
+        std::error_code ec;
+        std::filesystem::create_directories(ResolvePath(AppFolder() + path).parent_path(), ec);
         std::ofstream file(ResolvePath(AppFolder() + path), std::ios::binary);
         Require(static_cast<bool>(file), "cannot write " + path);
         file << Unescape(tail);
