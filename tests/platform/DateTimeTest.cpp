@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/DateTime.h"
+#include "platform/Numbers.h"
 
 using namespace platform;
 
@@ -28,4 +29,11 @@ TEST(DateTime, FormatsOfTheFixedLocale) {
     ASSERT_TRUE(ParseDate("3/5/2026", parsed));
     EXPECT_EQ(parsed, t.DateOnly());
     EXPECT_EQ(DateAdd("m", 1, DateTime::FromYmd(2026, 1, 31)), DateTime::FromYmd(2026, 2, 28));
+}
+
+TEST(Numbers, CurrencyOfTheFixedLocale) {
+    EXPECT_EQ(FormatCurrency(2), "$2.00");
+    EXPECT_EQ(FormatCurrency(1234567.891), "$1,234,567.89");
+    EXPECT_EQ(FormatCurrency(-12.5), "($12.50)");
+    EXPECT_EQ(FormatCurrency(0.004), "$0.00");
 }
