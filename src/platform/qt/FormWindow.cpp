@@ -831,33 +831,54 @@ void FormWindow::Flush() {
         return ca != cb ? ca : a < b;
     });
     for (size_t i : order) {
+        if (bindings_[i].widget && bindings_[i].control->Container().empty()) formDirty_ = true;
         try {
             Sync(bindings_[i]);
         } catch (const std::exception&) {
             // A property the widget cannot show yet; the next change shows it.
         }
     }
+    if (formDirty_) {
+        formDirty_ = false;
+        UpdateWindowGeometry();
+    }
     --syncing_;
 }
 
 void FormWindow::UpdateWindowGeometry() {
     bool hasMenu = false;
-    for (const Binding& b : bindings_)
-        if (b.control->Type() == ControlType::Menu && b.control->Container().empty() &&
-            b.control->Visible())
-            hasMenu = true;
+    // A control that sticks out past the form's edge is still reached: the drawing
+    // surface grows to hold it rather than cut it off.
+    int right = 0, bottom = 0;
+    for (const Binding& b : bindings_) {
+        const Control& c = *b.control;
+        if (c.Type() == ControlType::Menu && c.Container().empty() && c.Visible()) hasMenu = true;
+        if (b.widget && c.Container().empty() && c.Visible()) {
+            right = std::max(right, c.Left() + c.Width());
+            bottom = std::max(bottom, c.Top() + c.Height());
+        }
+    }
     menuBar_->setVisible(hasMenu);
-    const int width = ToPixels(std::max(0, form_->Width() - kBorderWidth));
-    const int height =
-        ToPixels(std::max(0, form_->Height() - kCaptionHeight - (hasMenu ? kMenuHeight : 0)));
-    canvas_->setFixedSize(width, height);
+    const int clientWidth = std::max(0, form_->Width() - kBorderWidth);
+    const int clientHeight =
+        std::max(0, form_->Height() - kCaptionHeight - (hasMenu ? kMenuHeight : 0));
+    const QSize canvas(ToPixels(std::max(clientWidth, right)),
+                       ToPixels(std::max(clientHeight, bottom)));
     setWindowTitle(FromAnsi(form_->Caption()));
-    QSize wanted(width, height + (hasMenu ? menuBar_->sizeHint().height() : 0));
+    if (canvas == canvas_->size() && canvasSized_) return;
+    canvasSized_ = true;
+    canvas_->setFixedSize(canvas);
+    QSize wanted = NaturalSize();
     if (const QScreen* screen = QApplication::primaryScreen()) {
         const QSize room = screen->availableGeometry().size() - QSize(16, 48);
         wanted = wanted.boundedTo(room);
     }
     resize(wanted);
+}
+
+QSize FormWindow::NaturalSize() const {
+    return canvas_->size() +
+           QSize(0, menuBar_->isVisibleTo(this) ? menuBar_->sizeHint().height() : 0);
 }
 
 void FormWindow::SyncCommon(Binding& b) {

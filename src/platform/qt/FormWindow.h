@@ -47,6 +47,8 @@ class FormWindow : public QWidget {
     QWidget* WidgetOf(const Control& control) const;
     QAction* ActionOf(const Control& menu) const;
     QWidget* Canvas() const { return canvas_; }
+    // The whole form, menu bar included, however small the screen.
+    QSize NaturalSize() const;
     QMenuBar* Bar() const { return menuBar_; }
     void FocusControl(Control& control);
     void ShowPopup(Control& menu);
@@ -102,6 +104,7 @@ class FormWindow : public QWidget {
     std::unordered_map<const QObject*, Control*> watched_;
     std::unordered_set<Control*> dirty_;
     bool formDirty_ = true;
+    bool canvasSized_ = false;
 };
 
 }  // namespace platform::qt
