@@ -280,6 +280,50 @@ class WholeBoxButton : public Button {
     bool hitButton(const QPoint& pos) const override { return this->rect().contains(pos); }
 };
 
+// The simple combo box: an edit line over a list that is always open.
+class SimpleCombo : public QWidget {
+  public:
+    explicit SimpleCombo(QWidget* parent) : QWidget(parent) {
+        edit = new QLineEdit(this);
+        list = new QListWidget(this);
+        list->setFocusPolicy(Qt::NoFocus);
+        list->setUniformItemSizes(true);
+        setFocusProxy(edit);
+    }
+    QLineEdit* edit;
+    QListWidget* list;
+
+  protected:
+    void resizeEvent(QResizeEvent*) override {
+        const int editHeight = std::min(height(), edit->sizeHint().height());
+        edit->setGeometry(0, 0, width(), editHeight);
+        list->setGeometry(0, editHeight, width(), std::max(0, height() - editHeight));
+    }
+};
+
+QLineEdit* ComboEdit(QWidget* w) {
+    if (auto* combo = qobject_cast<QComboBox*>(w)) return combo->lineEdit();
+    if (auto* simple = dynamic_cast<SimpleCombo*>(w)) return simple->edit;
+    return nullptr;
+}
+
+// The platform's buttons wrap a caption that does not fit on one line.
+QString WrappedCaption(const QString& text, const QFontMetrics& metrics, int width) {
+    if (width <= 0 || metrics.horizontalAdvance(WithoutMnemonic(text)) <= width) return text;
+    const QStringList words = text.split(u' ', Qt::SkipEmptyParts);
+    QString out, line;
+    for (const QString& word : words) {
+        const QString candidate = line.isEmpty() ? word : line + u' ' + word;
+        if (!line.isEmpty() && metrics.horizontalAdvance(WithoutMnemonic(candidate)) > width) {
+            out += line + u'\n';
+            line = word;
+        } else {
+            line = candidate;
+        }
+    }
+    return out + line;
+}
+
 // The tab control: a tab strip over a panel; each page holds the controls placed on it,
 // at positions measured from the control's own top left corner.
 class TabHost : public QWidget {
@@ -567,28 +611,44 @@ void FormWindow::Build() {
                 break;
             }
             case ControlType::ComboBox: {
-                auto* combo = new QComboBox(canvas_);
                 auto* cb = static_cast<ComboBox*>(c);
-                combo->setInsertPolicy(QComboBox::NoInsert);
-                combo->setMaxVisibleItems(12);
-                if (cb->Style() != ComboBox::DropDownList) {
-                    combo->setEditable(true);
-                    combo->setCompleter(nullptr);
-                    Watch(combo->lineEdit(), *c);
-                    connect(combo->lineEdit(), &QLineEdit::textEdited, this,
-                            [this, c, cb](const QString& text) {
-                                const std::string now = ToAnsi(text);
-                                Act(
-                                    c, [cb, now] { cb->SetText(now); },
-                                    [this, c] { SelectionToModel(*c); });
+                QLineEdit* edit = nullptr;
+                if (cb->Style() == ComboBox::SimpleCombo) {
+                    auto* simple = new SimpleCombo(canvas_);
+                    edit = simple->edit;
+                    connect(simple->list, &QListWidget::currentRowChanged, this,
+                            [this, c, cb](int row) {
+                                if (row < 0 || row >= cb->ListCount() || row == cb->ListIndex())
+                                    return;
+                                Act(c, [cb, row] { cb->SetListIndex(row); });
                             });
-                }
-                connect(combo, &QComboBox::activated, this, [this, c, cb](int index) {
-                    Act(c, [cb, index] {
-                        if (index < cb->ListCount()) cb->SetListIndex(index);
+                    Watch(simple->list->viewport(), *c);
+                    w = simple;
+                } else {
+                    auto* combo = new QComboBox(canvas_);
+                    combo->setInsertPolicy(QComboBox::NoInsert);
+                    combo->setMaxVisibleItems(12);
+                    if (cb->Style() != ComboBox::DropDownList) {
+                        combo->setEditable(true);
+                        combo->setCompleter(nullptr);
+                        edit = combo->lineEdit();
+                    }
+                    connect(combo, &QComboBox::activated, this, [this, c, cb](int index) {
+                        Act(c, [cb, index] {
+                            if (index < cb->ListCount()) cb->SetListIndex(index);
+                        });
                     });
-                });
-                w = combo;
+                    w = combo;
+                }
+                if (edit) {
+                    Watch(edit, *c);
+                    connect(edit, &QLineEdit::textEdited, this, [this, c, cb](const QString& text) {
+                        const std::string now = ToAnsi(text);
+                        Act(
+                            c, [cb, now] { cb->SetText(now); },
+                            [this, c] { SelectionToModel(*c); });
+                    });
+                }
                 break;
             }
             case ControlType::Grid: {
@@ -923,7 +983,8 @@ void FormWindow::Sync(Binding& b) {
     const QString caption = FromAnsi(c.Caption());
     switch (c.Type()) {
         case ControlType::CommandButton:
-            static_cast<QPushButton*>(b.widget)->setText(caption);
+            static_cast<QPushButton*>(b.widget)->setText(
+                WrappedCaption(caption, b.widget->fontMetrics(), b.widget->width() - 10));
             break;
         case ControlType::Label: {
             auto* label = static_cast<QLabel*>(b.widget);
@@ -983,7 +1044,7 @@ void FormWindow::Sync(Binding& b) {
         }
         case ControlType::CheckBox: {
             auto* check = static_cast<QCheckBox*>(b.widget);
-            check->setText(caption);
+            check->setText(WrappedCaption(caption, check->fontMetrics(), check->width() - 24));
             const int v = static_cast<CheckBox&>(c).Value();
             check->setCheckState(v == 1   ? Qt::Checked
                                  : v == 2 ? Qt::PartiallyChecked
@@ -992,7 +1053,7 @@ void FormWindow::Sync(Binding& b) {
         }
         case ControlType::OptionButton: {
             auto* option = static_cast<QRadioButton*>(b.widget);
-            option->setText(caption);
+            option->setText(WrappedCaption(caption, option->fontMetrics(), option->width() - 24));
             option->setChecked(static_cast<OptionButton&>(c).Value());
             break;
         }
@@ -1027,19 +1088,29 @@ void FormWindow::Sync(Binding& b) {
             break;
         }
         case ControlType::ComboBox: {
-            auto* combo = static_cast<QComboBox*>(b.widget);
+            auto* combo = qobject_cast<QComboBox*>(b.widget);
+            auto* simple = combo ? nullptr : static_cast<SimpleCombo*>(b.widget);
             auto& model = static_cast<ComboBox&>(c);
             QStringList items;
             items.reserve(model.ListCount());
             for (const ListEntry& e : model.Items()) items.append(FromAnsi(e.text));
             if (items != b.items) {
-                combo->clear();
-                combo->addItems(items);
+                if (combo) {
+                    combo->clear();
+                    combo->addItems(items);
+                } else {
+                    simple->list->clear();
+                    simple->list->addItems(items);
+                }
                 b.items = items;
             }
-            if (combo->currentIndex() != model.ListIndex())
+            if (combo && combo->currentIndex() != model.ListIndex())
                 combo->setCurrentIndex(model.ListIndex());
-            if (QLineEdit* edit = combo->lineEdit()) {
+            if (simple && simple->list->currentRow() != model.ListIndex()) {
+                simple->list->setCurrentRow(model.ListIndex());
+                if (model.ListIndex() < 0) simple->list->clearSelection();
+            }
+            if (QLineEdit* edit = ComboEdit(b.widget)) {
                 const QString want = FromAnsi(model.Text());
                 const bool selectionMoved =
                     model.SelStart() != b.selStart || model.SelLength() != b.selLength;
@@ -1224,7 +1295,7 @@ void FormWindow::SelectionToModel(Control& control) {
         b.selLength = box.SelLength();
     } else if (control.Type() == ControlType::ComboBox) {
         auto& combo = static_cast<ComboBox&>(control);
-        QLineEdit* edit = static_cast<QComboBox*>(b.widget)->lineEdit();
+        QLineEdit* edit = ComboEdit(b.widget);
         if (!edit) return;
         start = edit->hasSelectedText() ? edit->selectionStart() : edit->cursorPosition();
         length = edit->hasSelectedText() ? static_cast<int>(edit->selectedText().size()) : 0;
