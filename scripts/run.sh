@@ -8,8 +8,8 @@ cmake -S . -B build -DCMAKE_BUILD_TYPE=Release -DSCHEDULER_TESTS=OFF -DSCHEDULER
 cmake --build build -j"$(nproc)" --target NorvaxConstructionScheduler
 home="$HOME/NorvaxConstructionScheduler"
 mkdir -p "$home"
-cp -f "$(find build -name NorvaxConstructionScheduler -type f -perm -u+x | head -n 1)" "$home/"
+cp -f "$(find build -name 'NorvaxConstructionScheduler.bin' -type f -perm -u+x | head -n 1)" "$home/"
 if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
-    exec xvfb-run -a "$home/NorvaxConstructionScheduler"
+    exec xvfb-run -a -s "-screen 0 1600x1000x24" "$home/NorvaxConstructionScheduler.bin"
 fi
-exec "$home/NorvaxConstructionScheduler"
+exec "$home/NorvaxConstructionScheduler.bin"
