@@ -169,6 +169,9 @@ class frmDemo : public platform::Form {
         On("SSTab1.Click", [this](platform::EventArgs& e) {
             Note("SSTab1.Click from " + std::to_string(e.previousTab));
         });
+        On("txtName.DragDrop", [this](platform::EventArgs& e) {
+            Note("txtName.DragDrop from " + (e.source ? e.source->Key() : std::string("nothing")));
+        });
         On("mnuExit.Click", [this](platform::EventArgs&) { Note("mnuExit.Click"); });
         On("tmrPoll.Timer", [this](platform::EventArgs&) {
             ++ticksRunning;

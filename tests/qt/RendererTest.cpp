@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -178,6 +179,20 @@ TEST_F(RendererTest, ClicksReachTheNamedHandlers) {
     WindowOf(form).ActionOf(form.mnuExit)->trigger();
     EXPECT_TRUE(Logged(form, "mnuExit.Click"));
     EXPECT_FALSE(WindowOf(form).ActionOf(form.mnuPopup)->isVisible());
+}
+
+TEST_F(RendererTest, AControlDroppedOnAnotherReachesItsDragDrop) {
+    frmDemo& form = ShowDemo();
+    form.lstTeam.SetDragEnabled(true);
+    QWidget* target = WindowOf(form).WidgetOf(form.txtName);
+    QMimeData data;
+    data.setData("application/x-scheduler-control", "lstTeam");
+    QDragEnterEvent enter(QPoint(5, 5), Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(QPointF(5, 5), Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &drop);
+    EXPECT_TRUE(Logged(form, "txtName.DragDrop from lstTeam"));
 }
 
 TEST_F(RendererTest, GridCellsAnswerLeftRightAndDoubleClicks) {

@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QCursor>
 #include <QDateEdit>
+#include <QDrag>
 #include <QFileInfo>
 #include <QGroupBox>
 #include <QHeaderView>
@@ -19,6 +20,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QPlainTextEdit>
@@ -818,6 +820,66 @@ void FormWindow::BuildMenus() {
 void FormWindow::Watch(QObject* object, Control& control) {
     watched_[object] = &control;
     object->installEventFilter(this);
+    if (auto* w = qobject_cast<QWidget*>(object)) w->setAcceptDrops(true);
+}
+
+namespace {
+const QString kDragFormat = QStringLiteral("application/x-scheduler-control");
+}
+
+// A control with dragging on is dragged by the mouse; the control it is dropped on gets
+// DragDrop with the dragged control as its source.
+bool FormWindow::HandleDrag(Control& control, QObject* watched, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::MouseButtonPress: {
+            auto* mouse = static_cast<QMouseEvent*>(event);
+            if (control.DragEnabled() && mouse->button() == Qt::LeftButton) {
+                dragSource_ = control.Key();
+                dragStart_ = mouse->globalPosition().toPoint();
+            }
+            return false;
+        }
+        case QEvent::MouseMove: {
+            auto* mouse = static_cast<QMouseEvent*>(event);
+            if (dragSource_ != control.Key() || !(mouse->buttons() & Qt::LeftButton) ||
+                (mouse->globalPosition().toPoint() - dragStart_).manhattanLength() <
+                    QApplication::startDragDistance())
+                return false;
+            const std::string source = dragSource_;
+            dragSource_.clear();
+            auto* drag = new QDrag(qobject_cast<QWidget*>(watched));
+            auto* data = new QMimeData;
+            data->setData(kDragFormat, QByteArray::fromStdString(source));
+            drag->setMimeData(data);
+            drag->exec(Qt::MoveAction);
+            return true;
+        }
+        case QEvent::DragEnter:
+        case QEvent::DragMove: {
+            auto* drag = static_cast<QDropEvent*>(event);
+            if (!drag->mimeData()->hasFormat(kDragFormat)) return false;
+            drag->acceptProposedAction();
+            return true;
+        }
+        case QEvent::Drop: {
+            auto* drop = static_cast<QDropEvent*>(event);
+            if (!drop->mimeData()->hasFormat(kDragFormat)) return false;
+            drop->acceptProposedAction();
+            Control* source = form_->Find(drop->mimeData()->data(kDragFormat).toStdString());
+            Control* target = &control;
+            const QPointF at = drop->position();
+            Act(target, [target, source, at] {
+                EventArgs args;
+                args.source = source;
+                args.x = at.x() / kScale * 15.0;
+                args.y = at.y() / kScale * 15.0;
+                target->Raise("DragDrop", args);
+            });
+            return true;
+        }
+        default:
+            return false;
+    }
 }
 
 QWidget* FormWindow::ParentFor(const Control& control) const {
@@ -1440,10 +1502,17 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::KeyPress:
             return HandleKey(control, static_cast<QKeyEvent*>(event));
         case QEvent::MouseButtonPress:
+            HandleDrag(control, watched, event);
+            return HandleMouse(control, watched, static_cast<QMouseEvent*>(event));
         case QEvent::MouseButtonRelease:
         case QEvent::MouseButtonDblClick:
             return HandleMouse(control, watched, static_cast<QMouseEvent*>(event));
+        case QEvent::DragEnter:
+        case QEvent::DragMove:
+        case QEvent::Drop:
+            return HandleDrag(control, watched, event);
         case QEvent::MouseMove:
+            if (HandleDrag(control, watched, event)) return true;
             if (control.Type() == ControlType::Grid)
                 return HandleMouse(control, watched, static_cast<QMouseEvent*>(event));
             return false;

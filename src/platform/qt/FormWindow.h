@@ -88,6 +88,7 @@ class FormWindow : public QWidget {
              const std::function<void()>& beforeShowing = {});
     bool HandleKey(Control& control, QKeyEvent* event);
     bool HandleMouse(Control& control, QObject* watched, QMouseEvent* event);
+    bool HandleDrag(Control& control, QObject* watched, QEvent* event);
     void SelectionToModel(Control& control);
     Control* DefaultButton(bool cancel) const;
 
@@ -105,6 +106,8 @@ class FormWindow : public QWidget {
     std::unordered_set<Control*> dirty_;
     bool formDirty_ = true;
     bool canvasSized_ = false;
+    std::string dragSource_;
+    QPoint dragStart_;
 };
 
 }  // namespace platform::qt
