@@ -55,6 +55,9 @@ void frmSetup::LayOut() {
         Place(Image1[i], kTab, i, 9600, 6540, 375, 375);
         Image1[i].SetCaption(">>");
         Image1[i].SetToolTipText("Next Page");
+        Place(lblNextTab[i], kTab, i, 8280, 6585, 1215, 285);
+        lblNextTab[i].SetCaption("Next Page");
+        lblNextTab[i].SetAlignment(1);
     }
 
     mnuToggle.SetCaption("&Toggle Grid");
@@ -354,6 +357,7 @@ void frmSetup::RegisterHandlers() {
     On("Form.QueryUnload", [this](EventArgs& e) { Form_QueryUnload(e); });
     On("tabSetup.Click", [this](EventArgs& e) { tabSetup_Click(e.previousTab); });
     On("Image1.Click", [this](EventArgs&) { Image1_Click(); });
+    On("lblNextTab.Click", [this](EventArgs&) { Image1_Click(); });
     On("cmdQuit.Click", [this](EventArgs&) { cmdQuit_Click(); });
 
     On("cmdAddress.Click", [this](EventArgs&) { cmdAddress_Click(); });
@@ -387,6 +391,7 @@ void frmSetup::RegisterHandlers() {
     On("cmdDelete.Click", [this](EventArgs&) { cmdDelete_Click(); });
     On("cboAssignments.Click", [this](EventArgs&) { cboAssignments_Click(); });
     On("cboAssignments.DragDrop", [this](EventArgs& e) { cboAssignments_DragDrop(e); });
+    On("lstContacts.DblClick", [this](EventArgs&) { lstContacts_DblClick(); });
 
     On("cmdAddMilestone.Click", [this](EventArgs&) { cmdAddMilestone_Click(); });
     On("cmdDeleteMilestone.Click", [this](EventArgs&) { cmdDeleteMilestone_Click(); });
@@ -582,6 +587,11 @@ void frmSetup::cboAssignments_Click() {
 void frmSetup::cboAssignments_DragDrop(EventArgs& e) {
     // Only a sub-contractor dragged from the list beside it can be dropped here.
     if (e.source != &lstContacts) return;
+    DropSubContractor(*this, lstContacts.Text());
+}
+
+// Where dragging is not at hand, a double click adds the sub-contractor the same way.
+void frmSetup::lstContacts_DblClick() {
     DropSubContractor(*this, lstContacts.Text());
 }
 

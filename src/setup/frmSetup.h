@@ -38,6 +38,7 @@ class frmSetup : public platform::Form {
     platform::Tab tabSetup{*this, "tabSetup"};
     platform::CommandButton cmdQuit{*this, "cmdQuit"};
     ControlArray<platform::Image, 7> Image1{*this, "Image1"};  // the arrow of each tab
+    ControlArray<platform::Label, 7> lblNextTab{*this, "lblNextTab"};
     platform::Menu mnuToggle{*this, "mnuToggle"};
 
     // ---- Business Info
@@ -197,6 +198,7 @@ class frmSetup : public platform::Form {
     void cmdDelete_Click();
     void cboAssignments_Click();
     void cboAssignments_DragDrop(platform::EventArgs& e);
+    void lstContacts_DblClick();
 
     void cmdAddMilestone_Click();
     void cmdDeleteMilestone_Click();
