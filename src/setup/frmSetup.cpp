@@ -40,7 +40,7 @@ frmSetup::frmSetup() : Form(kName) {
 
 void frmSetup::LayOut() {
     SetCaption("Set Up Your Scheduler");
-    SetSize(10515, 8280);
+    SetSize(10575, 8700);
 
     tabSetup.Move(120, 120, 10215, 7095);
     tabSetup.SetTabs(7);
@@ -226,28 +226,28 @@ void frmSetup::LayOut() {
         "an Individual, a Team, a Truck Route, a Territory, etc.");
     Place(cboAssignments, kTab, kAssignmentsTab, 240, 1140, 4215, 4695);
     cboAssignments.SetStyle(ComboBox::SimpleCombo);
-    Place(cmdAddNew, kTab, kAssignmentsTab, 4680, 1140, 2535, 495);
+    Place(cmdAddNew, kTab, kAssignmentsTab, 4620, 1140, 2895, 495);
     cmdAddNew.SetCaption("&Create a New Assignment");
-    Place(cmdSave, kTab, kAssignmentsTab, 4680, 1740, 2535, 495);
+    Place(cmdSave, kTab, kAssignmentsTab, 4620, 1740, 2895, 495);
     cmdSave.SetCaption("&Save this New Assignment ");
-    Place(cmdChange[4], kTab, kAssignmentsTab, 4680, 2340, 2535, 495);
+    Place(cmdChange[4], kTab, kAssignmentsTab, 4620, 2340, 2895, 495);
     cmdChange[4].SetCaption("Change the &Selected Assignment");
     cmdChange[4].SetToolTipText(changeTips[0]);
     cmdChange[4].SetEnabled(false);
-    Place(cmdDelete, kTab, kAssignmentsTab, 4680, 2940, 2535, 495);
+    Place(cmdDelete, kTab, kAssignmentsTab, 4620, 2940, 2895, 495);
     cmdDelete.SetCaption("&Delete the selected Assignment");
     cmdDelete.SetEnabled(false);
     // The rename that takes an empty name too; kept for the keyboard, not shown.
-    Place(cmdChange[0], kTab, kAssignmentsTab, 4680, 3540, 2535, 495);
+    Place(cmdChange[0], kTab, kAssignmentsTab, 4620, 3540, 2895, 495);
     cmdChange[0].SetCaption("Save &Name");
     cmdChange[0].SetToolTipText(changeTips[0]);
     cmdChange[0].SetVisible(false);
-    Place(fraContacts, kTab, kAssignmentsTab, 7440, 540, 2535, 5415);
+    Place(fraContacts, kTab, kAssignmentsTab, 7680, 540, 2415, 5415);
     fraContacts.SetCaption("Sub-Contractors");
     fraContacts.SetVisible(false);
-    Place(lblDragHelp, "fraContacts", 120, 300, 2295, 735);
+    Place(lblDragHelp, "fraContacts", 120, 300, 2175, 735);
     lblDragHelp.SetCaption("Drag and Drop to add a Sub-Contractor\r\nto your Assignments List");
-    Place(lstContacts, "fraContacts", 120, 1080, 2295, 4155);
+    Place(lstContacts, "fraContacts", 120, 1080, 2175, 4155);
     lstContacts.SetDragEnabled(true);
 
     // ---- Milestones
