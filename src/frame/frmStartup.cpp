@@ -45,37 +45,37 @@ const char* RoutineScreen(int menuRoutine) {
 
 frmStartup::frmStartup() : Form(kName) {
     SetCaption(Ui().ProductName());
-    SetSize(7560, 7080);
+    SetSize(8640, 7560);
 
     Label1[0] = std::make_unique<Label>(*this, "Label1", 0);
     Label1[0]->SetCaption(Ui().ProductName());
     Label1[0]->SetFontSize(14);
     Label1[0]->SetFontBold(true);
     Label1[0]->SetAlignment(2);
-    Label1[0]->Move(240, 120, 5640, 480);
+    Label1[0]->Move(240, 120, 6600, 480);
     Label1[1] = std::make_unique<Label>(*this, "Label1", 1);
     Label1[1]->SetCaption("Choose a routine, then Start (or double click it)");
     Label1[1]->SetAlignment(2);
-    Label1[1]->Move(240, 600, 5640, 300);
+    Label1[1]->Move(240, 600, 6600, 300);
 
-    Image1.Move(6240, 180, 960, 960);
+    Image1.Move(7200, 180, 960, 960);
     Image1.SetToolTipText("Setup");
-    Image2.Move(6240, 1320, 960, 960);
+    Image2.Move(7200, 1320, 960, 960);
     Image2.SetVisible(false);
 
     fraRoutines.SetCaption("Program Routines");
-    fraRoutines.Move(240, 960, 7000, 4800);
+    fraRoutines.Move(240, 960, 6720, 4800);
     for (int i = 0; i < 10; ++i) {
         optProgramRoutine[static_cast<size_t>(i)] =
             std::make_unique<OptionButton>(*this, "optProgramRoutine", i);
         auto& opt = *optProgramRoutine[static_cast<size_t>(i)];
         opt.SetCaption(kRoutineCaptions[i]);
         opt.SetContainer("fraRoutines");
-        opt.Move(240, 300 + i * 440, 6500, 375);
+        opt.Move(240, 300 + i * 440, 6240, 375);
     }
     cmdStart.SetCaption("&Start");
     cmdStart.SetDefault(true);
-    cmdStart.Move(2640, 5940, 2160, 495);
+    cmdStart.Move(2520, 5940, 2160, 495);
 
     mnuFile.SetCaption("&File");
     mnuCreate.SetCaption("&Setup");
