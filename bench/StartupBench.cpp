@@ -61,8 +61,7 @@ void BuildOffice(const fs::path& root) {
 }
 
 double TimeStart(const fs::path& root, HeadlessBackend& backend) {
-    Forms::Reset();
-    ClearProgramEnded();
+    ResetProgramState();
     RegisterScreens();
     const auto start = std::chrono::steady_clock::now();
     Dispatch([] { SubMain(); });

@@ -12,6 +12,7 @@
 #include "schedule/SchedulerRoutines.h"
 #include "schedule/Teams.h"
 #include "setup/AssignmentRoutines.h"
+#include "setup/CharacteristicsRoutines.h"
 #include "setup/SettingsRoutines.h"
 #include "setup/SetupHooks.h"
 #include "setup/frmSetup.h"
@@ -42,6 +43,14 @@ void RegisterScreens() {
     Register<frmSetup>();
     ExitProgramHook = [] { ExitProgram(); };
     ShowMainMenuHook = [] { Forms::Get(frmStartup::kName).Show(); };
+}
+
+void ResetProgramState() {
+    Forms::Reset();
+    ClearProgramEnded();
+    ResetSharedState();
+    ResetDayState();
+    ResetCharacteristics();
 }
 
 void SubMain() {

@@ -7,6 +7,9 @@
 void SubMain();
 // Makes every screen known by name.
 void RegisterScreens();
+// Forgets every screen and shared value, as when the process starts anew; for the script
+// driver and tests, which start the program several times in one process.
+void ResetProgramState();
 
 void BuildFolderTree();
 void BuildProgramFolders();

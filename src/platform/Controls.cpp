@@ -32,6 +32,35 @@ bool LessNoCase(const std::string& a, const std::string& b) {
     });
 }
 
+// What one typed key does to an edit field: the selection is replaced, Backspace deletes,
+// Enter breaks the line only where the field has several. False when the text stays.
+bool EditByKey(std::string& text, int& caret, int selLength, int key, bool multiLine,
+               int maxLength) {
+    caret = std::clamp(caret, 0, static_cast<int>(text.size()));
+    const int selected = std::clamp(selLength, 0, static_cast<int>(text.size()) - caret);
+    const std::string before = text;
+    if (key == 8) {
+        if (selected > 0) {
+            text.erase(static_cast<size_t>(caret), static_cast<size_t>(selected));
+        } else if (caret > 0) {
+            text.erase(static_cast<size_t>(caret - 1), 1);
+            --caret;
+        }
+        return text != before;
+    }
+    if (key == 13 && !multiLine) return false;
+    text.erase(static_cast<size_t>(caret), static_cast<size_t>(selected));
+    if (maxLength > 0 && static_cast<int>(text.size()) >= maxLength) {
+        text = before;
+        return false;
+    }
+    const std::string typed =
+        key == 13 ? std::string("\r\n") : std::string(1, static_cast<char>(key));
+    text.insert(static_cast<size_t>(caret), typed);
+    caret += static_cast<int>(typed.size());
+    return true;
+}
+
 }  // namespace
 
 const char* TypeName(ControlType type) {
@@ -209,34 +238,15 @@ void TextBox::TypeKey(int keyAscii) {
     EventArgs args;
     args.keyAscii = keyAscii;
     Raise("KeyPress", args);
-    const int key = args.keyAscii;
-    if (key == 0 || locked_) return;
+    if (args.keyAscii == 0 || locked_) return;
     std::string next = text_;
-    int caret = std::clamp(selStart_, 0, static_cast<int>(next.size()));
-    int selected = std::clamp(selLength_, 0, static_cast<int>(next.size()) - caret);
-    if (key == 8) {
-        if (selected > 0) {
-            next.erase(static_cast<size_t>(caret), static_cast<size_t>(selected));
-        } else if (caret > 0) {
-            next.erase(static_cast<size_t>(caret - 1), 1);
-            --caret;
-        }
-    } else if (key == 13 && !multiLine_) {
-        return;
-    } else {
-        next.erase(static_cast<size_t>(caret), static_cast<size_t>(selected));
-        if (maxLength_ > 0 && static_cast<int>(next.size()) >= maxLength_) return;
-        if (key == 13) {
-            next.insert(static_cast<size_t>(caret), "\r\n");
-            caret += 2;
-        } else {
-            next.insert(static_cast<size_t>(caret), 1, static_cast<char>(key));
-            ++caret;
-        }
-    }
-    SetText(next);
+    int caret = selStart_;
+    if (!EditByKey(next, caret, selLength_, args.keyAscii, multiLine_, maxLength_)) return;
+    text_ = next;
     selStart_ = caret;
     selLength_ = 0;
+    Notify();
+    Raise("Change");
 }
 
 void TextBox::TypeText(const std::string& text) {
@@ -458,26 +468,11 @@ void ComboBox::TypeKey(int keyAscii) {
     EventArgs args;
     args.keyAscii = keyAscii;
     Raise("KeyPress", args);
-    const int key = args.keyAscii;
-    if (key == 0 || style_ == DropDownList) return;
+    if (args.keyAscii == 0 || style_ == DropDownList) return;
     std::string next = text_;
-    int caret = std::clamp(selStart_, 0, static_cast<int>(next.size()));
-    int selected = std::clamp(selLength_, 0, static_cast<int>(next.size()) - caret);
-    if (key == 8) {
-        if (selected > 0) {
-            next.erase(static_cast<size_t>(caret), static_cast<size_t>(selected));
-        } else if (caret > 0) {
-            next.erase(static_cast<size_t>(caret - 1), 1);
-            --caret;
-        }
-    } else if (key == 13) {
-        return;
-    } else {
-        next.erase(static_cast<size_t>(caret), static_cast<size_t>(selected));
-        next.insert(static_cast<size_t>(caret), 1, static_cast<char>(key));
-        ++caret;
-    }
-    if (next == text_) return;
+    int caret = selStart_;
+    if (!EditByKey(next, caret, selLength_, args.keyAscii, false, 0)) return;
+    // The selection is in place before Change runs, so that type-ahead can select what it adds.
     text_ = next;
     selStart_ = caret;
     selLength_ = 0;

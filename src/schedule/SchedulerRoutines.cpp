@@ -33,6 +33,12 @@ void ShowSlotInGrid(Grid* grid, int slot) {
 
 }  // namespace
 
+void ResetDayState() {
+    DaySlots.fill("");
+    DayFilePath.clear();
+    DayOfYearText.clear();
+}
+
 std::string HourLabelShown(int slot) {
     return HourLabels[static_cast<size_t>(slot)] + (slot <= 6 ? "am" : "pm");
 }

@@ -18,6 +18,8 @@ extern std::string DayOfYearText;
 // Labels of the twelve slots, 1 to 12; there is no noon slot.
 extern const std::array<std::string, 13> HourLabels;
 
+void ResetDayState();  // the open day as a new process has it
+
 std::string HourLabelShown(int slot);  // "08:00am", "01:00pm"
 int WorkingSlot(int position);         // slot of working hour 1 to 8, from StartHour
 

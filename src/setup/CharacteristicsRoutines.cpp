@@ -19,6 +19,15 @@ std::vector<std::int16_t> CharDependency{0};
 std::vector<std::int16_t> CharLead{0};
 std::int16_t MilestoneCount = 0;
 
+void ResetCharacteristics() {
+    CharName.assign(1, "");
+    CharType.assign(1, 0);
+    CharPhase.assign(1, 0);
+    CharDependency.assign(1, 0);
+    CharLead.assign(1, 0);
+    MilestoneCount = 0;
+}
+
 namespace {
 
 constexpr int kOverflow = 6;

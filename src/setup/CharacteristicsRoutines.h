@@ -17,6 +17,8 @@ extern std::vector<std::int16_t> CharLead;        // days after the dependency, 
 // Milestones in the list after LoadCharacteristics. Project creation reuses it for the
 // milestones it selected.
 extern std::int16_t MilestoneCount;
+// The template arrays as a new process has them: empty.
+void ResetCharacteristics();
 
 constexpr const char* kCharacteristicsFile = "\\Characteristics.txt";
 

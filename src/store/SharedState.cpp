@@ -28,6 +28,24 @@ int TodayDayNumber = 0;
 
 bool ProjectsLoaded = false;
 
+void ResetSharedState() {
+    TeamNames.assign(1, "empty");
+    MenuRoutine = 0;
+    StartHour = 8;
+    WorkWeek = 5;
+    DaysDefault = ShowPrompts = SoundAlarms = true;
+    BusinessData.fill("");
+    PrintInColor = true;
+    PrintCopies = 3;
+    ModemPort = 0;
+    PhoneConnected = CallerIDEnabled = false;
+    CurrentDate = platform::DateTime();
+    CurrentTeam.clear();
+    CurrentYearText.clear();
+    TodayDayNumber = 0;
+    ProjectsLoaded = false;
+}
+
 void AlarmBeep() {
     if (SoundAlarms) platform::Beep();
 }

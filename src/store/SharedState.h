@@ -43,5 +43,8 @@ extern int TodayDayNumber;
 // True while the project tables hold what is on disk.
 extern bool ProjectsLoaded;
 
+// Every value above as a new process starts with it.
+void ResetSharedState();
+
 // The beep beside a refused input, when the user wants it.
 void AlarmBeep();

@@ -23,8 +23,7 @@ class MainMenu : public ::testing::Test {
         folder.Write("Characteristics.txt", "\"Framing\",2,2,0,0\r\n");
     }
     frmStartup& Start() {
-        Forms::Reset();
-        ClearProgramEnded();
+        ResetProgramState();
         RegisterScreens();
         Dispatch([] { SubMain(); });
         return Screen<frmStartup>();

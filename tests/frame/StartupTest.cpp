@@ -14,8 +14,7 @@ using testing_support::TestFolder;
 namespace {
 
 void Start() {
-    Forms::Reset();
-    ClearProgramEnded();
+    ResetProgramState();
     RegisterScreens();
     Dispatch([] { SubMain(); });
 }

@@ -226,8 +226,7 @@ void ScriptDriver::Execute(const std::string& line) {
     if (verb == "clock") {
         backend_.SetNow(ParseWhen(rest));
     } else if (verb == "start") {
-        ClearProgramEnded();
-        Forms::Reset();
+        ResetProgramState();
         RegisterScreens();
         user([] { SubMain(); });
     } else if (verb == "other-instance") {
