@@ -990,6 +990,10 @@ void FormWindow::UpdateWindowGeometry() {
     if (canvas == canvas_->size() && canvasSized_) return;
     canvasSized_ = true;
     canvas_->setFixedSize(canvas);
+    FitContents();
+}
+
+void FormWindow::FitContents() {
     QSize wanted = NaturalSize();
     if (const QScreen* screen = QApplication::primaryScreen()) {
         const QSize room = screen->availableGeometry().size() - QSize(16, 48);
@@ -999,8 +1003,11 @@ void FormWindow::UpdateWindowGeometry() {
 }
 
 QSize FormWindow::NaturalSize() const {
+    // Before the window is first shown its menu bar is not yet visible to it; what counts is
+    // whether the bar has been hidden. The scroll area's frame needs its room too.
+    const int frame = 2 * scroll_->frameWidth();
     return canvas_->size() +
-           QSize(0, menuBar_->isVisibleTo(this) ? menuBar_->sizeHint().height() : 0);
+           QSize(frame, frame + (menuBar_->isHidden() ? 0 : menuBar_->sizeHint().height()));
 }
 
 void FormWindow::SyncCommon(Binding& b) {

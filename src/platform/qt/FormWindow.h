@@ -49,6 +49,8 @@ class FormWindow : public QWidget {
     QWidget* Canvas() const { return canvas_; }
     // The whole form, menu bar included, however small the screen.
     QSize NaturalSize() const;
+    // Sizes the window to hold its whole canvas, as far as the screen allows.
+    void FitContents();
     QMenuBar* Bar() const { return menuBar_; }
     void FocusControl(Control& control);
     void ShowPopup(Control& menu);

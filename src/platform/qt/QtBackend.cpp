@@ -164,6 +164,7 @@ void QtBackend::FormShown(Form& form) {
     }
     if (!window.property("placed").toBool()) {
         window.setProperty("placed", true);
+        window.FitContents();
         if (const QScreen* screen = QApplication::primaryScreen()) {
             const QRect room = screen->availableGeometry();
             window.move(room.center() - QPoint(window.width() / 2, window.height() / 2));
