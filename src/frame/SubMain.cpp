@@ -162,7 +162,7 @@ void PurgeDayFiles() {
     int from = 1;
     if (FindFile("\\PurgedDate.txt")) {
         OpenForInput("\\PurgedDate.txt");
-        from = static_cast<int>(InputNumber(MainFileNo));
+        from = InputInt16(MainFileNo);
         CloseAll();
         if (from < 1) from = 1;
     }

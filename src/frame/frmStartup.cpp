@@ -47,16 +47,14 @@ frmStartup::frmStartup() : Form(kName) {
     SetCaption(Ui().ProductName());
     SetSize(8640, 7560);
 
-    Label1[0] = std::make_unique<Label>(*this, "Label1", 0);
-    Label1[0]->SetCaption(Ui().ProductName());
-    Label1[0]->SetFontSize(14);
-    Label1[0]->SetFontBold(true);
-    Label1[0]->SetAlignment(2);
-    Label1[0]->Move(240, 120, 6600, 480);
-    Label1[1] = std::make_unique<Label>(*this, "Label1", 1);
-    Label1[1]->SetCaption("Choose a routine, then Start (or double click it)");
-    Label1[1]->SetAlignment(2);
-    Label1[1]->Move(240, 600, 6600, 300);
+    Label1[0].SetCaption(Ui().ProductName());
+    Label1[0].SetFontSize(14);
+    Label1[0].SetFontBold(true);
+    Label1[0].SetAlignment(2);
+    Label1[0].Move(240, 120, 6600, 480);
+    Label1[1].SetCaption("Choose a routine, then Start (or double click it)");
+    Label1[1].SetAlignment(2);
+    Label1[1].Move(240, 600, 6600, 300);
 
     Image1.Move(7200, 180, 960, 960);
     Image1.SetToolTipText("Setup");
@@ -66,9 +64,7 @@ frmStartup::frmStartup() : Form(kName) {
     fraRoutines.SetCaption("Program Routines");
     fraRoutines.Move(240, 960, 6720, 4800);
     for (int i = 0; i < 10; ++i) {
-        optProgramRoutine[static_cast<size_t>(i)] =
-            std::make_unique<OptionButton>(*this, "optProgramRoutine", i);
-        auto& opt = *optProgramRoutine[static_cast<size_t>(i)];
+        auto& opt = optProgramRoutine[i];
         opt.SetCaption(kRoutineCaptions[i]);
         opt.SetContainer("fraRoutines");
         opt.Move(240, 300 + i * 440, 6240, 375);
@@ -138,17 +134,17 @@ frmStartup::frmStartup() : Form(kName) {
 void frmStartup::Form_Activate() {
     if (FindFile("/CustomerData.txt")) {
         if (Dir(DataPath("\\ConstructionProjects\\*.txt")).empty()) {
-            optProgramRoutine[9]->SetEnabled(false);
-            optProgramRoutine[3]->SetEnabled(false);
+            optProgramRoutine[9].SetEnabled(false);
+            optProgramRoutine[3].SetEnabled(false);
         }
-        if (!CallerIDEnabled) optProgramRoutine[5]->SetVisible(false);
-        optProgramRoutine[0]->SetValue(true);
+        if (!CallerIDEnabled) optProgramRoutine[5].SetVisible(false);
+        optProgramRoutine[0].SetValue(true);
         MenuRoutine = 1;
     } else {
         MsgBox("Create your 1st Customer Record Now");
-        for (auto& opt : optProgramRoutine) opt->SetEnabled(false);
-        optProgramRoutine[8]->SetEnabled(true);
-        optProgramRoutine[8]->SetValue(true);
+        for (int i = 0; i < optProgramRoutine.Count(); ++i) optProgramRoutine[i].SetEnabled(false);
+        optProgramRoutine[8].SetEnabled(true);
+        optProgramRoutine[8].SetValue(true);
     }
 }
 

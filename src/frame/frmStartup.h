@@ -1,8 +1,6 @@
 #pragma once
 
-#include <array>
-#include <memory>
-
+#include "platform/ControlArray.h"
 #include "platform/Form.h"
 
 // The main menu: ten routines, each opening one screen that returns here.
@@ -12,9 +10,10 @@ class frmStartup : public platform::Form {
     frmStartup();
 
     platform::Frame fraRoutines{*this, "fraRoutines"};
-    std::array<std::unique_ptr<platform::OptionButton>, 10> optProgramRoutine;
+    platform::ControlArray<platform::OptionButton, 10> optProgramRoutine{*this,
+                                                                         "optProgramRoutine"};
     platform::CommandButton cmdStart{*this, "cmdStart"};
-    std::array<std::unique_ptr<platform::Label>, 2> Label1;
+    platform::ControlArray<platform::Label, 2> Label1{*this, "Label1"};
     platform::Image Image1{*this, "Image1"};
     platform::Image Image2{*this, "Image2"};
 

@@ -543,8 +543,25 @@ double InputNumber(int fileNo) {
     return value;
 }
 
-long InputLong(int fileNo) {
-    return std::lround(InputNumber(fileNo));
+namespace {
+double InputInRange(int fileNo, double low, double high) {
+    const double rounded = std::nearbyint(InputNumber(fileNo));
+    if (rounded < low || rounded > high)
+        Raise(6, Get(fileNo, "Input").target.string());  // Overflow
+    return rounded;
+}
+}  // namespace
+
+std::int32_t InputInt32(int fileNo) {
+    return static_cast<std::int32_t>(InputInRange(fileNo, -2147483648.0, 2147483647.0));
+}
+
+std::int16_t InputInt16(int fileNo) {
+    return static_cast<std::int16_t>(InputInRange(fileNo, -32768, 32767));
+}
+
+std::uint8_t InputByte(int fileNo) {
+    return static_cast<std::uint8_t>(InputInRange(fileNo, 0, 255));
 }
 
 bool InputBool(int fileNo) {

@@ -56,7 +56,11 @@ void PrintLine(int fileNo, std::string_view text);
 
 std::string InputString(int fileNo);
 double InputNumber(int fileNo);
-long InputLong(int fileNo);
+// A number read into a 32-bit, 16-bit or byte variable: rounded half to even, Overflow past
+// its range.
+std::int32_t InputInt32(int fileNo);
+std::int16_t InputInt16(int fileNo);
+std::uint8_t InputByte(int fileNo);
 bool InputBool(int fileNo);
 DateTime InputDate(int fileNo);
 std::string LineInput(int fileNo);

@@ -42,18 +42,6 @@ constexpr int kLogoStep = 50;
 
 constexpr int kOverflow = 6;
 
-std::uint8_t ToByte(double value) {
-    const double rounded = std::nearbyint(value);
-    if (rounded < 0 || rounded > 255) Raise(kOverflow, kPrintColorsFile);
-    return static_cast<std::uint8_t>(rounded);
-}
-
-std::int32_t ToLong(double value) {
-    const double rounded = std::nearbyint(value);
-    if (rounded < -2147483648.0 || rounded > 2147483647.0) Raise(kOverflow, kPrintColorsFile);
-    return static_cast<std::int32_t>(rounded);
-}
-
 int ToTwips(double value) {
     const double rounded = std::nearbyint(value);
     if (rounded < -32768 || rounded > 32767) Raise(kOverflow, kLogoSettingsFile);
@@ -162,11 +150,11 @@ void LoadPrintColors(frmSetup& form) {
     if (FindFile(kPrintColorsFile)) {
         OpenForInput(kPrintColorsFile);
         const int file = MainFileNo;
-        borders = ToLong(InputNumber(file));
-        data = ToLong(InputNumber(file));
+        borders = InputInt32(file);
+        data = InputInt32(file);
         font = InputString(file);
         PrintInColor = InputBool(file);
-        PrintCopies = ToByte(InputNumber(file));
+        PrintCopies = InputByte(file);
         CloseAll();
     } else {
         PrintInColor = true;

@@ -54,12 +54,6 @@ void ResizeEmpty(std::vector<T>& array, int upper) {
     array.assign(static_cast<size_t>(upper) + 1, T{});
 }
 
-std::int16_t ToInt16(double value) {
-    const double rounded = std::nearbyint(value);
-    if (rounded < -32768 || rounded > 32767) Raise(kOverflow, kCharacteristicsFile);
-    return static_cast<std::int16_t>(rounded);
-}
-
 void ResizeAttributesKeeping(int upper) {
     ResizeKeeping(CharType, upper);
     ResizeKeeping(CharPhase, upper);
@@ -96,10 +90,10 @@ void LoadCharacteristics(frmSetup& form) {
             ResizeKeeping(CharName, position);
             ResizeAttributesKeeping(position);
             CharName[static_cast<size_t>(position)] = InputString(file);
-            CharType[static_cast<size_t>(position)] = ToInt16(InputNumber(file));
-            CharPhase[static_cast<size_t>(position)] = ToInt16(InputNumber(file));
-            CharDependency[static_cast<size_t>(position)] = ToInt16(InputNumber(file));
-            CharLead[static_cast<size_t>(position)] = ToInt16(InputNumber(file));
+            CharType[static_cast<size_t>(position)] = InputInt16(file);
+            CharPhase[static_cast<size_t>(position)] = InputInt16(file);
+            CharDependency[static_cast<size_t>(position)] = InputInt16(file);
+            CharLead[static_cast<size_t>(position)] = InputInt16(file);
             form.cboMilestones.AddItem(CharName[static_cast<size_t>(position)]);
             if (selection) selection->AddItem(CharName[static_cast<size_t>(position)]);
             ++MilestoneCount;

@@ -16,12 +16,6 @@ namespace {
 constexpr const char* kPhoneFile = "/Phone.txt";
 constexpr const char* kCallerIDFile = "/CallID.txt";
 
-std::int16_t ToPort(double value) {
-    const double rounded = std::nearbyint(value);
-    if (rounded < -32768 || rounded > 32767) Raise(6, kPhoneFile);  // Overflow
-    return static_cast<std::int16_t>(rounded);
-}
-
 }  // namespace
 
 void StartPhoneOptions(frmSetup& form) {
@@ -34,7 +28,7 @@ void StartPhoneOptions(frmSetup& form) {
         OpenForInput(kPhoneFile);
         const int file = MainFileNo;
         PhoneConnected = InputBool(file);
-        ModemPort = ToPort(InputNumber(file));
+        ModemPort = InputInt16(file);
         CloseAll();
         // The page keeps a probed port; without a probe it shows the one stored.
         if (!probed) form.txtModemPort.SetText(std::to_string(ModemPort));

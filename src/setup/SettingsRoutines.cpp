@@ -23,12 +23,6 @@ constexpr const char* kPromptsFile = "/Prompts.txt";
 // save still uses it.
 constexpr const char* kFixedSettingsName = "\\ConstructionSchedulerSettings.txt";
 
-std::uint8_t ToByte(double value) {
-    const double rounded = std::nearbyint(value);
-    if (rounded < 0 || rounded > 255) Raise(6, SettingsFilePath());  // Overflow
-    return static_cast<std::uint8_t>(rounded);
-}
-
 }  // namespace
 
 std::string SettingsFilePath() {
@@ -40,8 +34,8 @@ void LoadConstructionSettings(frmSetup& form) {
     if (FindFile(path)) {
         OpenForInput(path);
         const int file = MainFileNo;
-        StartHour = ToByte(InputNumber(file));
-        WorkWeek = ToByte(InputNumber(file));
+        StartHour = InputByte(file);
+        WorkWeek = InputByte(file);
         InputString(file);  // two reserved values
         InputString(file);
         DaysDefault = InputBool(file);

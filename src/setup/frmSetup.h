@@ -3,9 +3,9 @@
 #include <cstdint>
 #include <string>
 
+#include "platform/ControlArray.h"
 #include "platform/Controls.h"
 #include "platform/Form.h"
-#include "setup/ControlArray.h"
 
 // The set-up screen: business data, logo, operating settings, assignments (teams) and the
 // milestone templates. Loaded hidden at every start; its load puts all settings into the
@@ -37,14 +37,14 @@ class frmSetup : public platform::Form {
     // ---- Whole screen
     platform::Tab tabSetup{*this, "tabSetup"};
     platform::CommandButton cmdQuit{*this, "cmdQuit"};
-    ControlArray<platform::Image, 7> Image1{*this, "Image1"};  // the arrow of each tab
-    ControlArray<platform::Label, 7> lblNextTab{*this, "lblNextTab"};
+    platform::ControlArray<platform::Image, 7> Image1{*this, "Image1"};  // the arrow of each tab
+    platform::ControlArray<platform::Label, 7> lblNextTab{*this, "lblNextTab"};
     platform::Menu mnuToggle{*this, "mnuToggle"};
 
     // ---- Business Info
     platform::Label lblBusinessHeading{*this, "lblBusinessHeading"};
-    ControlArray<platform::Label, 9> lblAddress{*this, "lblAddress"};
-    ControlArray<platform::TextBox, 9> txtBusiness{*this, "txtBusiness"};
+    platform::ControlArray<platform::Label, 9> lblAddress{*this, "lblAddress"};
+    platform::ControlArray<platform::TextBox, 9> txtBusiness{*this, "txtBusiness"};
     platform::Label lblPostal{*this, "lblPostal"};
     platform::CommandButton cmdAddress{*this, "cmdAddress"};
     platform::Image Image4{*this, "Image4"};
@@ -62,7 +62,7 @@ class frmSetup : public platform::Form {
     platform::UpDown UpDown3{*this, "UpDown3"};
     platform::Label lblLogoHeight{*this, "lblLogoHeight"};
     platform::Label lblSizeLimit{*this, "lblSizeLimit"};
-    ControlArray<platform::CommandButton, 7> cmdLogo{*this, "cmdLogo"};
+    platform::ControlArray<platform::CommandButton, 7> cmdLogo{*this, "cmdLogo"};
     platform::Label lblLogoHelp{*this, "lblLogoHelp"};
 
     // ---- Operations, with its inner tabs
@@ -91,7 +91,7 @@ class frmSetup : public platform::Form {
     platform::Label lblFontHeading{*this, "lblFontHeading"};
     platform::Label lblFont{*this, "lblFont"};
     // 1 and 2 the print colours, 3 the font (this page); 0 and 4 rename an assignment.
-    ControlArray<platform::CommandButton, 5> cmdChange{*this, "cmdChange"};
+    platform::ControlArray<platform::CommandButton, 5> cmdChange{*this, "cmdChange"};
     platform::CheckBox ckColor{*this, "ckColor"};
     platform::Label lblCopies{*this, "lblCopies"};
     platform::ComboBox cboCopies{*this, "cboCopies"};
@@ -147,7 +147,7 @@ class frmSetup : public platform::Form {
     platform::CommandButton cmdCharContinue{*this, "cmdCharContinue"};
 
     // ---- Help
-    ControlArray<platform::Label, 4> lblHelp{*this, "lblHelp"};
+    platform::ControlArray<platform::Label, 4> lblHelp{*this, "lblHelp"};
 
     // ---- State of the screen
     // Milestone walk.

@@ -37,8 +37,8 @@ TEST_F(MainMenu, WithoutCustomersOnlyTheCustomerRoutineCanBeUsed) {
     auto& menu = Start();
     ASSERT_TRUE(menu.Visible());
     EXPECT_EQ(folder.Ui().Boxes().back().prompt, "Create your 1st Customer Record Now");
-    for (int i = 0; i < 10; ++i) EXPECT_EQ(menu.optProgramRoutine[i]->Enabled(), i == 8) << i;
-    EXPECT_TRUE(menu.optProgramRoutine[8]->Value());
+    for (int i = 0; i < 10; ++i) EXPECT_EQ(menu.optProgramRoutine[i].Enabled(), i == 8) << i;
+    EXPECT_TRUE(menu.optProgramRoutine[8].Value());
     EXPECT_EQ(MenuRoutine, 9);
 }
 
@@ -47,17 +47,17 @@ TEST_F(MainMenu, WithCustomersButNoProjectsTheProjectRoutinesAreOff) {
     CallerIDEnabled = false;
     auto& menu = Start();
     ASSERT_TRUE(menu.Visible());
-    EXPECT_FALSE(menu.optProgramRoutine[9]->Enabled());
-    EXPECT_FALSE(menu.optProgramRoutine[3]->Enabled());
-    EXPECT_TRUE(menu.optProgramRoutine[2]->Enabled());
-    EXPECT_FALSE(menu.optProgramRoutine[5]->Visible());
-    EXPECT_TRUE(menu.optProgramRoutine[0]->Value());
+    EXPECT_FALSE(menu.optProgramRoutine[9].Enabled());
+    EXPECT_FALSE(menu.optProgramRoutine[3].Enabled());
+    EXPECT_TRUE(menu.optProgramRoutine[2].Enabled());
+    EXPECT_FALSE(menu.optProgramRoutine[5].Visible());
+    EXPECT_TRUE(menu.optProgramRoutine[0].Value());
     EXPECT_EQ(MenuRoutine, 1);
     folder.Write("ConstructionProjects/Pj12-1.txt", "");
     menu.Hide();
     Forms::Reset();
     auto& again = Start();
-    EXPECT_TRUE(again.optProgramRoutine[9]->Enabled());
+    EXPECT_TRUE(again.optProgramRoutine[9].Enabled());
 }
 
 TEST_F(MainMenu, ARoutineWithoutItsScreenSaysSoAndStays) {
@@ -65,7 +65,7 @@ TEST_F(MainMenu, ARoutineWithoutItsScreenSaysSoAndStays) {
     auto& menu = Start();
     ASSERT_TRUE(menu.Visible());
     folder.Ui().ClearLog();
-    Dispatch([&] { menu.optProgramRoutine[7]->Raise("DblClick"); });
+    Dispatch([&] { menu.optProgramRoutine[7].Raise("DblClick"); });
     EXPECT_EQ(MenuRoutine, 8);
     ASSERT_EQ(folder.Ui().Boxes().size(), 1u);
     EXPECT_EQ(folder.Ui().Boxes()[0].title, "Routine Not Available");

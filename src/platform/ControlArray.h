@@ -5,12 +5,14 @@
 
 #include "platform/Form.h"
 
+namespace platform {
+
 // A control array of a screen: N controls of one name, indexed from 0, each registered
 // on the form as "name(i)".
 template <typename T, int N>
 class ControlArray {
   public:
-    ControlArray(platform::Form& form, const char* name) {
+    ControlArray(Form& form, const char* name) {
         for (int i = 0; i < N; ++i)
             items_[static_cast<size_t>(i)] = std::make_unique<T>(form, name, i);
     }
@@ -21,3 +23,5 @@ class ControlArray {
   private:
     std::array<std::unique_ptr<T>, N> items_;
 };
+
+}  // namespace platform
