@@ -142,3 +142,15 @@ TEST(Files, RandomRecordsArePackedAndNumberedFromOne) {
     EXPECT_EQ(bytes.substr(30, 10), std::string("Smith   \xFE\xFF", 10));
     EXPECT_EQ(bytes.substr(0, 30), std::string(30, '\0'));
 }
+
+TEST(Files, NumbersReadIntoSmallVariablesOverflowPastTheirRange) {
+    TestFolder folder;
+    folder.Write("n.txt", "2.5\r\n255\r\n256\r\n-32769\r\n");
+    int n = FreeFile();
+    Open(n, P("/n.txt"), OpenMode::Input);
+    EXPECT_EQ(InputByte(n), 2);  // half to even
+    EXPECT_EQ(InputByte(n), 255);
+    EXPECT_EQ(ErrorOf([&] { InputByte(n); }), 6);
+    EXPECT_EQ(ErrorOf([&] { InputInt16(n); }), 6);
+    CloseAll();
+}
