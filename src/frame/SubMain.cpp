@@ -76,9 +76,9 @@ void BuildFolderTree() {
           std::string("/Backup"), std::string("/Backup/NIActiveAccounts"),
           std::string("/Backup/NIActiveAccountsBACK"), std::string("/AuxFiles")})
         MakeFolder(folder);
-    if (FindFile("/CustomerData.txt") &&
-        CountRecords("/CustomerData.txt", kCustomerRecordLength) >= 1) {
-        const int count = CountRecords("/CustomerData.txt", kCustomerRecordLength);
+    // CountRecords tests for the file itself: no file counts no records.
+    const int count = CountRecords("/CustomerData.txt", kCustomerRecordLength);
+    if (count >= 1) {
         OpenCustomerData();
         for (int record = 1; record <= count; ++record) {
             // The account number is the first field of the customer record.
