@@ -1,7 +1,9 @@
 #include "setup/AssignmentRoutines.h"
 
+#include "contacts/VendorRecord.h"
 #include "platform/Files.h"
 #include "platform/Form.h"
+#include "platform/RecordLayout.h"
 #include "platform/Records.h"
 #include "platform/Ui.h"
 #include "schedule/Teams.h"
@@ -13,8 +15,6 @@
 using namespace platform;
 
 namespace {
-
-constexpr const char* kVendorFile = "/VendorData.txt";
 
 std::string CurrentYear() {
     return std::to_string(Today().Year());
@@ -85,18 +85,17 @@ void PurgeFolder(frmSetup& form) {
 
 void LoadSubContractors(frmSetup& form) {
     form.lstContacts.Clear();
+    using contacts::kVendorFile;
+    using contacts::kVendorRecord;
     if (!FindFile(kVendorFile)) return;
-    const int records = CountRecords(kVendorFile, kVendorRecordLength);
-    OpenRandom(kVendorFile, kVendorRecordLength);
+    const int length = static_cast<int>(kVendorRecord.Length());
+    const int records = CountRecords(kVendorFile, length);
+    OpenRandom(kVendorFile, length);
     const int file = MainFileNo;
     for (int i = 1; i <= records; ++i) {
-        RecordReader record(GetRecord(file, i));
-        record.Text(20);  // account number
-        const std::string name = record.Text(30);
-        record.Text(35 + 25 + 20 + 2 + 10 + 13 + 30);  // address to e-mail
-        const std::string category = record.Text(20);
-        if (Trim(category) == "Sub-Contractor") {
-            form.lstContacts.AddItem(Trim(name));
+        const Record vendor = GetRecord(file, i, kVendorRecord);
+        if (vendor.Trimmed("Category") == "Sub-Contractor") {
+            form.lstContacts.AddItem(vendor.Trimmed("Name"));
             form.fraContacts.SetVisible(true);
         }
     }

@@ -18,7 +18,6 @@ constexpr int kContractRecordLength = 386;
 constexpr int kCycleRecordLength = 69;
 constexpr int kProjectRecordLength = 297;
 constexpr int kTelCallRecordLength = 35;
-constexpr int kVendorRecordLength = 235;
 constexpr int kInventoryRecordLength = 124;
 constexpr int kServiceRecordLength = 72;
 constexpr int kCustomItemRecordLength = 70;
