@@ -6,9 +6,11 @@
 #include "frame/frmWelcome.h"
 #include "platform/Files.h"
 #include "platform/Form.h"
+#include "platform/RecordLayout.h"
 #include "platform/Records.h"
 #include "platform/RuntimeError.h"
 #include "platform/Ui.h"
+#include "projects/ProjectRecord.h"
 #include "schedule/SchedulerRoutines.h"
 #include "schedule/Teams.h"
 #include "setup/AssignmentRoutines.h"
@@ -184,21 +186,23 @@ void PurgeDayFiles() {
 }
 
 void PurgeMeetings() {
-    if (!FindFile("\\Meetings.txt")) return;
-    const int count = CountRecords("\\Meetings.txt", kProjectRecordLength);
+    using projects::kMeetingsFile;
+    using projects::kProjectRecord;
+    const int length = static_cast<int>(kProjectRecord.Length());
+    if (!FindFile(kMeetingsFile)) return;
+    const int count = CountRecords(kMeetingsFile, length);
     if (count < 1) return;
     const DateTime today = Today();
-    OpenRandom("\\Meetings.txt", kProjectRecordLength);
+    OpenRandom(kMeetingsFile, length);
     const int source = MainFileNo;
-    OpenTemporaryFile(kProjectRecordLength);
+    OpenTemporaryFile(length);
     long kept = 0;
     for (int record = 1; record <= count; ++record) {
-        std::string bytes = GetRecord(source, record);
+        const Record meeting = GetRecord(source, record, kProjectRecord);
         DateTime date;
-        if (!ParseDate(Trim(bytes.substr(30, 10)), date))
-            Raise(err::TypeMismatch, "\\Meetings.txt");
+        if (!ParseDate(meeting.Trimmed("Date"), date)) Raise(err::TypeMismatch, kMeetingsFile);
         if (date.DayOfYear() >= today.DayOfYear() || date.Year() > today.Year())
-            PutRecord(TempFileNo, ++kept, bytes);
+            PutRecord(TempFileNo, ++kept, meeting);
     }
     CloseAll();
     DeleteEverywhere("/Meetings.txt");

@@ -138,6 +138,8 @@ bool ParseNumber(const std::string& token, double& out) {
     }
     if (token == "#TRUE#") return out = -1, true;
     if (token == "#FALSE#") return out = 0, true;
+    // Decimal digits only: no "nan", "inf", hexadecimal or bytes past a NUL.
+    if (token.find_first_not_of("0123456789+-.eE") != std::string::npos) return false;
     char* end = nullptr;
     out = std::strtod(token.c_str(), &end);
     return end && *end == '\0';

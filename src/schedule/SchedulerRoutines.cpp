@@ -3,6 +3,7 @@
 #include "platform/Controls.h"
 #include "platform/Files.h"
 #include "platform/Form.h"
+#include "platform/RuntimeError.h"
 #include "schedule/Workdays.h"
 #include "store/BasicDiskRoutines.h"
 #include "store/SharedState.h"
@@ -26,6 +27,11 @@ Grid* DayGrid() {
     return c && c->Type() == ControlType::Grid ? static_cast<Grid*>(c) : nullptr;
 }
 
+// Busy days met by all searches for consecutive days since the program started.
+std::int16_t BusyDaysScanned = 0;
+constexpr int kScanLimit = 60;
+constexpr int kOverflow = 6;
+
 void ShowSlotInGrid(Grid* grid, int slot) {
     if (grid && slot < grid->Rows() && grid->Cols() > 1)
         grid->SetTextMatrix(slot, 1, DaySlots[static_cast<size_t>(slot)]);
@@ -37,6 +43,7 @@ void ResetDayState() {
     DaySlots.fill("");
     DayFilePath.clear();
     DayOfYearText.clear();
+    BusyDaysScanned = 0;
 }
 
 std::string HourLabelShown(int slot) {
@@ -120,4 +127,34 @@ void WriteDays(DateTime& date, int count, const std::string& text) {
         WriteDay(date, CurrentTeam);
         date = date.AddDays(1);
     }
+}
+
+void CheckConsecutiveDays(DateTime& date, int count, std::int16_t& conflict) {
+    if (count < 0 || count > 255) Raise(kOverflow, "CheckConsecutiveDays");  // a byte
+    for (int i = 1; i <= count; ++i) {
+        if (i > 1) {
+            date = date.AddDays(1);
+            NextWorkday(date);
+        }
+        CheckDayFree(date, conflict);
+        if (conflict != -1) continue;
+        // A busy day: the search starts again behind it. The result of the deeper search
+        // stays there; only this level's own limit reaches the caller.
+        conflict = 0;
+        if (BusyDaysScanned == INT16_MAX) Raise(kOverflow, "CheckConsecutiveDays");
+        ++BusyDaysScanned;
+        if (BusyDaysScanned >= kScanLimit) {
+            conflict = -1;
+            return;
+        }
+        date = date.AddDays(1);
+        NextWorkday(date);
+        std::int16_t deeper = 0;
+        CheckConsecutiveDays(date, count, deeper);
+        return;
+    }
+}
+
+std::int16_t ScanCount() {
+    return BusyDaysScanned;
 }

@@ -31,3 +31,9 @@ void WriteDay(platform::DateTime date, const std::string& team);
 void ReadDayRaw();
 void CheckDayFree(platform::DateTime date, std::int16_t& conflict);
 void WriteDays(platform::DateTime& date, int count, const std::string& text);
+// Looks for `count` consecutive workdays whose working block is free for CurrentTeam, from
+// `date` on, and leaves `date` on the last day looked at. Busy days are counted in ScanCount
+// over the whole run of the program, never per search; only a search whose first busy day
+// brings the count to 60 sets `conflict` to -1.
+void CheckConsecutiveDays(platform::DateTime& date, int count, std::int16_t& conflict);
+std::int16_t ScanCount();

@@ -16,7 +16,6 @@ extern std::int16_t TempFileNo;
 constexpr int kCustomerRecordLength = 328;
 constexpr int kContractRecordLength = 386;
 constexpr int kCycleRecordLength = 69;
-constexpr int kProjectRecordLength = 297;
 constexpr int kTelCallRecordLength = 35;
 constexpr int kInventoryRecordLength = 124;
 constexpr int kServiceRecordLength = 72;
