@@ -1,5 +1,6 @@
 #include "frame/SubMain.h"
 
+#include "blocked/frmBlock.h"
 #include "frame/Navigation.h"
 #include "frame/frmAbout.h"
 #include "frame/frmStartup.h"
@@ -43,6 +44,7 @@ void RegisterScreens() {
     Register<frmAbout>();
     Register<frmWelcome>();
     Register<frmSetup>();
+    Register<frmBlock>();
     ExitProgramHook = [] { ExitProgram(); };
     ShowMainMenuHook = [] { Forms::Get(frmStartup::kName).Show(); };
 }

@@ -51,6 +51,13 @@ bool CommonDialog::ShowOpen() {
     return true;
 }
 
+bool CommonDialog::ShowSave() {
+    FileAnswer answer = Dialogs().ChooseSaveFile(DialogTitle, Filter, FileName);
+    if (!answer.accepted) return Cancelled(*this, "CommonDialog.ShowSave");
+    FileName = answer.path;
+    return true;
+}
+
 bool CommonDialog::ShowPrinter() {
     PrinterAnswer answer = Dialogs().ChoosePrinter(Flags, Copies < 1 ? 1 : Copies);
     if (!answer.accepted) return Cancelled(*this, "CommonDialog.ShowPrinter");
@@ -89,6 +96,17 @@ std::string ChooseOpenFile(const std::string& filter, const std::string& title) 
     dialog.Filter = filter;
     dialog.DialogTitle = title;
     if (!dialog.ShowOpen()) return {};
+    return dialog.FileName;
+}
+
+std::string ChooseSaveFile(const std::string& filter, const std::string& title,
+                           const std::string& proposedPath) {
+    CommonDialog& dialog = SharedDialog();
+    dialog.CancelError = false;
+    dialog.Filter = filter;
+    dialog.DialogTitle = title;
+    dialog.FileName = proposedPath;
+    if (!dialog.ShowSave()) return {};
     return dialog.FileName;
 }
 

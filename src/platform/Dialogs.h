@@ -56,6 +56,11 @@ class DialogBackend {
                                       const std::string& initialDir) = 0;
     // Also chooses the printer that the next print job goes to.
     virtual PrinterAnswer ChoosePrinter(int flags, int copies) = 0;
+    // The file to write to, offering proposedPath; a backend without one cancels.
+    virtual FileAnswer ChooseSaveFile(const std::string& title, const std::string& filter,
+                                      const std::string& proposedPath) {
+        return {};
+    }
 };
 
 // The active dialog backend; headless unless the desktop program installs its own.
@@ -85,6 +90,7 @@ class CommonDialog {
     bool ShowColor();
     bool ShowFont();
     bool ShowOpen();
+    bool ShowSave();  // FileName in: the proposed path
     bool ShowPrinter();
 };
 
@@ -98,6 +104,9 @@ bool ChooseColor(std::int32_t& color);
 bool ChoosePrinterFont(std::string& fontName);
 // The chosen full path, or empty on cancel.
 std::string ChooseOpenFile(const std::string& filter, const std::string& title = {});
+// The full path to write to, proposing proposedPath; empty on cancel.
+std::string ChooseSaveFile(const std::string& filter, const std::string& title,
+                           const std::string& proposedPath);
 // The printer dialogue with the given flags and the shared copies. With cancelError a cancel
 // raises 32755; otherwise it returns false.
 bool ShowPrinterDialog(int flags, bool cancelError = true);

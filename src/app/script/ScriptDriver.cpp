@@ -10,6 +10,7 @@
 #include "platform/Form.h"
 #include "platform/RuntimeError.h"
 #include "platform/Ui.h"
+#include "platform/headless/HeadlessDialogs.h"
 
 using namespace platform;
 
@@ -199,7 +200,13 @@ void ScriptDriver::DriveModal(Form& form) {
 
 void ScriptDriver::Flush() {
     const auto& log = backend_.Transcript();
-    for (; logged_ < log.size(); ++logged_) out_ << "  " << Escape(log[logged_]) << "\n";
+    for (; logged_ < log.size(); ++logged_) {
+        // Paths in the program folder show from the folder on, as the scripts name them.
+        std::string line = log[logged_];
+        for (size_t at; !appFolder_.empty() && (at = line.find(appFolder_)) != std::string::npos;)
+            line.erase(at, appFolder_.size());
+        out_ << "  " << Escape(line) << "\n";
+    }
 }
 
 void ScriptDriver::Execute(const std::string& line) {
@@ -233,6 +240,11 @@ void ScriptDriver::Execute(const std::string& line) {
         backend_.SetOtherInstanceRunning(rest == "on");
     } else if (verb == "answer") {
         backend_.QueueAnswer(Answer(rest));
+    } else if (verb == "choose-file") {
+        if (rest == "cancel")
+            QueuedDialogs().QueueCancel();
+        else
+            QueuedDialogs().QueueFile(AppFolder() + rest);
     } else if (verb == "click") {
         Control& c = FindControl(target, form);
         user([&] { Click(c); });

@@ -61,6 +61,18 @@ FileAnswer HeadlessDialogs::ChooseOpenFile(const std::string& title, const std::
     return result;
 }
 
+FileAnswer HeadlessDialogs::ChooseSaveFile(const std::string& title, const std::string& filter,
+                                           const std::string& proposedPath) {
+    Answer queued;
+    FileAnswer result;
+    if (Next(queued) && queued.accepted && !queued.text.empty()) {
+        result.accepted = true;
+        result.path = queued.text;
+    }
+    Record("save -> " + (result.accepted ? result.path : std::string("cancel")));
+    return result;
+}
+
 PrinterAnswer HeadlessDialogs::ChoosePrinter(int flags, int copies) {
     Answer queued;
     PrinterAnswer result{true, copies};

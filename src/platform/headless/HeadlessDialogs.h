@@ -11,7 +11,7 @@ namespace platform {
 
 // The dialogs of tests and scripts: each dialogue takes the next queued answer. With none
 // queued, the colour, font and printer dialogues are confirmed as they stand (OK), and the
-// file dialogue is cancelled, since there is no file to pick. Every dialogue shown is logged.
+// file dialogues are cancelled, since there is no file to pick. Every dialogue shown is logged.
 class HeadlessDialogs : public DialogBackend {
   public:
     ColorAnswer ChooseColor(std::int32_t current) override;
@@ -19,9 +19,12 @@ class HeadlessDialogs : public DialogBackend {
     FileAnswer ChooseOpenFile(const std::string& title, const std::string& filter,
                               const std::string& initialDir) override;
     PrinterAnswer ChoosePrinter(int flags, int copies) override;
+    FileAnswer ChooseSaveFile(const std::string& title, const std::string& filter,
+                              const std::string& proposedPath) override;
 
     void QueueColor(std::int32_t color);
     void QueueFont(const std::string& name);
+    // The file chosen in the next open or save dialogue.
     void QueueFile(const std::string& path);
     // OK in the printer dialogue; copies 0 keeps the number offered.
     void QueuePrinter(int copies = 0);
@@ -30,7 +33,7 @@ class HeadlessDialogs : public DialogBackend {
     void ClearQueue() { answers_.clear(); }
     std::size_t Queued() const { return answers_.size(); }
 
-    // "color", "font", "open" or "printer" with what was answered, one a dialogue shown.
+    // "color", "font", "open", "save" or "printer" with what was answered, one a dialogue shown.
     const std::vector<std::string>& Shown() const { return shown_; }
     void ClearShown() { shown_.clear(); }
 

@@ -72,6 +72,16 @@ FileAnswer QtDialogs::ChooseOpenFile(const std::string& title, const std::string
     return {true, ToAnsiPath(file)};
 }
 
+FileAnswer QtDialogs::ChooseSaveFile(const std::string& title, const std::string& filter,
+                                     const std::string& proposedPath) {
+    const QString file = QFileDialog::getSaveFileName(
+        QApplication::activeWindow(), QString::fromStdString(title.empty() ? "Save As" : title),
+        QString::fromLocal8Bit(proposedPath.data(), static_cast<qsizetype>(proposedPath.size())),
+        ToQtFilter(filter));
+    if (file.isEmpty()) return {};
+    return {true, ToAnsiPath(file)};
+}
+
 PrinterAnswer QtDialogs::ChoosePrinter(int flags, int copies) {
     QPrinter& printer = printer_.Device();
     printer.setCopyCount(copies);

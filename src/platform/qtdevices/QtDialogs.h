@@ -20,6 +20,8 @@ class QtDialogs : public DialogBackend {
     FileAnswer ChooseOpenFile(const std::string& title, const std::string& filter,
                               const std::string& initialDir) override;
     PrinterAnswer ChoosePrinter(int flags, int copies) override;
+    FileAnswer ChooseSaveFile(const std::string& title, const std::string& filter,
+                              const std::string& proposedPath) override;
 
   private:
     QtPrinterDevice& printer_;

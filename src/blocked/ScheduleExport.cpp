@@ -1,0 +1,180 @@
+#include "blocked/ScheduleExport.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+#include "blocked/ICalendarFormat.h"
+#include "blocked/frmBlock.h"
+#include "platform/Dialogs.h"
+#include "platform/Files.h"
+#include "platform/Ui.h"
+#include "schedule/SchedulerRoutines.h"
+#include "schedule/Teams.h"
+#include "store/BasicDiskRoutines.h"
+#include "store/SharedState.h"
+
+using namespace platform;
+
+namespace {
+
+constexpr const char* kTitle = "Export Schedule";
+constexpr const char* kCalendarFilter = "iCalendar Files (*.ics)|*.ics";
+constexpr const char* kProductId = "-//Norvax//Construction Scheduler//EN";
+constexpr const char* kUidDomain = "@scheduler.norvax.com";
+
+bool IsFree(const std::string& slot) {
+    return slot.empty() || slot.find("No Event") != std::string::npos;
+}
+
+bool IsBlockedDay() {
+    const std::string& first = DaySlots[1];
+    if (std::find(std::begin(kBlockReasons), std::end(kBlockReasons), first) ==
+        std::end(kBlockReasons))
+        return false;
+    return std::all_of(DaySlots.begin() + 1, DaySlots.end(),
+                       [&](const std::string& slot) { return slot == first; });
+}
+
+// The hour a slot begins: 06:00 to 11:00, then 13:00 to 18:00 (there is no noon slot).
+int SlotHour(int slot) {
+    return slot <= 6 ? 5 + slot : 6 + slot;
+}
+
+DateTime AtHour(DateTime day, int hour) {
+    return DateTime::FromYmdHms(day.Year(), day.Month(), day.Day(), hour, 0, 0);
+}
+
+std::string TeamName(int team) {
+    return team >= 1 && team <= TeamCount() ? TeamNames[static_cast<size_t>(team)]
+                                            : "Team " + std::to_string(team);
+}
+
+// "Pj123-4-Framing": the project number holds one hyphen, the milestone follows the second.
+bool SplitMilestone(const std::string& text, std::string& project, std::string& milestone) {
+    if (text.rfind("Pj", 0) != 0) return false;
+    const auto first = text.find('-');
+    const auto second = first == std::string::npos ? first : text.find('-', first + 1);
+    if (second == std::string::npos || second + 1 >= text.size()) return false;
+    project = text.substr(0, second);
+    milestone = text.substr(second + 1);
+    return true;
+}
+
+std::string SafeFileName(std::string name) {
+    for (char& c : name)
+        if (std::string_view("\\/:*?\"<>|").find(c) != std::string_view::npos || c < ' ') c = '-';
+    return name;
+}
+
+void AddEvent(CalendarWriter& out, const ScheduleEvent& event, bool namesTeams, DateTime stamp) {
+    const std::string team = TeamName(event.team);
+    out.Begin("VEVENT");
+    out.Add("UID", FormatDateValue(event.day) + "-T" + std::to_string(event.team) + "-S" +
+                       std::to_string(event.firstSlot) + kUidDomain);
+    out.Add("DTSTAMP", FormatDateTimeValue(stamp, true));
+    std::string description = "Assignment: " + team;
+    std::string summary = event.text;
+    if (event.allDay) {
+        out.Add("DTSTART;VALUE=DATE", FormatDateValue(event.day));
+        out.Add("DTEND;VALUE=DATE", FormatDateValue(event.day.AddDays(1)));
+    } else {
+        const int last = event.firstSlot + event.slots - 1;
+        out.Add("DTSTART",
+                FormatDateTimeValue(AtHour(event.day, SlotHour(event.firstSlot)), false));
+        out.Add("DTEND", FormatDateTimeValue(AtHour(event.day, SlotHour(last) + 1), false));
+        std::string project, milestone;
+        if (SplitMilestone(event.text, project, milestone)) {
+            summary = project + " " + milestone;
+            description += "\nProject: " + project + "\nMilestone: " + milestone;
+        }
+        description += "\nHours: " + std::to_string(event.slots);
+    }
+    out.AddText("SUMMARY", namesTeams ? team + ": " + summary : summary);
+    out.AddText("DESCRIPTION", description);
+    out.End("VEVENT");
+}
+
+bool WriteWhole(const std::string& path, const std::string& bytes) {
+    const std::string part = path + ".part";
+    {
+        std::ofstream out(part, std::ios::binary | std::ios::trunc);
+        out << bytes;
+        out.close();
+        if (!out) {
+            std::error_code ignored;
+            std::filesystem::remove(part, ignored);
+            return false;
+        }
+    }
+    std::error_code ec;
+    std::filesystem::rename(part, path, ec);
+    if (ec) std::filesystem::remove(part, ec);
+    return !ec;
+}
+
+}  // namespace
+
+std::vector<ScheduleEvent> CollectScheduleEvents(int firstTeam, int lastTeam, DateTime first,
+                                                 DateTime last) {
+    std::vector<ScheduleEvent> events;
+    for (int team = firstTeam; team <= lastTeam; ++team) {
+        const std::string teamText = std::to_string(team);
+        for (DateTime day = first.DateOnly(); day <= last.DateOnly(); day = day.AddDays(1)) {
+            const std::string path = "\\" + std::to_string(day.Year()) + "\\Team#" + teamText +
+                                     "\\" + std::to_string(day.DayOfYear()) + ".txt";
+            if (!FindFile(path)) continue;
+            ReadDay(day, teamText);
+            if (IsBlockedDay()) {
+                events.push_back({team, day, true, 1, 12, DaySlots[1]});
+                continue;
+            }
+            for (int slot = 1; slot <= 12;) {
+                const std::string& text = DaySlots[static_cast<size_t>(slot)];
+                int end = slot + 1;
+                while (end <= 12 && DaySlots[static_cast<size_t>(end)] == text) ++end;
+                if (!IsFree(text)) events.push_back({team, day, false, slot, end - slot, text});
+                slot = end;
+            }
+        }
+    }
+    return events;
+}
+
+std::string ScheduleCalendar(const std::vector<ScheduleEvent>& events,
+                             const std::string& calendarName, bool namesTeams, DateTime stamp) {
+    CalendarWriter out;
+    out.Begin("VCALENDAR");
+    out.Add("VERSION", "2.0");
+    out.Add("PRODID", kProductId);
+    out.Add("CALSCALE", "GREGORIAN");
+    out.Add("METHOD", "PUBLISH");
+    out.AddText("X-WR-CALNAME", calendarName);
+    for (const ScheduleEvent& event : events) AddEvent(out, event, namesTeams, stamp);
+    out.End("VCALENDAR");
+    return out.Bytes();
+}
+
+void ExportSchedule(frmBlock& form) {
+    const int index = form.lstAssignto.ListIndex();
+    if (index < 0) return;
+    const bool allTeams = index == form.lstAssignto.ListCount() - 1;
+    const std::string name = form.lstAssignto.Text();
+    const DateTime first = form.DTStartSearch.Value().DateOnly();
+    const DateTime last = form.DTEndSearch.Value().DateOnly();
+    std::string path = ChooseSaveFile(
+        kCalendarFilter, kTitle, DataPath("\\Documents\\" + SafeFileName(name) + " Schedule.ics"));
+    if (path.empty()) return;
+    if (std::filesystem::path(path).extension().empty()) path += ".ics";
+    const auto events = CollectScheduleEvents(allTeams ? 1 : index + 1,
+                                              allTeams ? TeamCount() : index + 1, first, last);
+    const std::string fileName = std::filesystem::path(path).filename().string();
+    if (!WriteWhole(path, ScheduleCalendar(events, name + " Schedule", allTeams, Now()))) {
+        MsgBox("The calendar could not be written to " + fileName + ".", vbExclamation, kTitle);
+        return;
+    }
+    MsgBox("The schedule of " + name + " from " + ShortDate(first) + " to " + ShortDate(last) +
+               " was saved in " + fileName + " with " + std::to_string(events.size()) +
+               (events.size() == 1 ? " event." : " events."),
+           vbInformation, kTitle);
+}
