@@ -65,8 +65,8 @@ TEST_F(MainMenu, ARoutineWithoutItsScreenSaysSoAndStays) {
     auto& menu = Start();
     ASSERT_TRUE(menu.Visible());
     folder.Ui().ClearLog();
-    Dispatch([&] { menu.optProgramRoutine[7].Raise("DblClick"); });
-    EXPECT_EQ(MenuRoutine, 8);
+    Dispatch([&] { menu.optProgramRoutine[6].Raise("DblClick"); });
+    EXPECT_EQ(MenuRoutine, 7);
     ASSERT_EQ(folder.Ui().Boxes().size(), 1u);
     EXPECT_EQ(folder.Ui().Boxes()[0].title, "Routine Not Available");
     EXPECT_TRUE(menu.Visible());
