@@ -2,7 +2,7 @@
 # Installs what the build needs on a Debian machine, when it is missing.
 set -euo pipefail
 packages=(cmake g++ make libgtest-dev libgmock-dev qt6-base-dev qt6-serialport-dev
-          libgl-dev xvfb xauth poppler-utils)
+          libgl-dev xvfb xauth poppler-utils libical-dev)
 missing=()
 for p in "${packages[@]}"; do
     dpkg -s "$p" >/dev/null 2>&1 || missing+=("$p")

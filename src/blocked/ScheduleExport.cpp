@@ -3,12 +3,15 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <map>
+#include <optional>
 
 #include "blocked/ICalendarFormat.h"
 #include "blocked/frmBlock.h"
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
 #include "platform/Ui.h"
+#include "projects/ProjectFiles.h"
 #include "schedule/SchedulerRoutines.h"
 #include "schedule/Teams.h"
 #include "store/BasicDiskRoutines.h"
@@ -61,13 +64,52 @@ bool SplitMilestone(const std::string& text, std::string& project, std::string& 
     return true;
 }
 
+// "Pj" + day of the year + "-" + running number: nothing else names a project file.
+bool IsProjectNumber(const std::string& text) {
+    const auto hyphen = text.find('-');
+    auto digits = [&](size_t from, size_t to) {
+        return to > from && text.find_first_not_of("0123456789", from) >= to;
+    };
+    return text.rfind("Pj", 0) == 0 && hyphen != std::string::npos && digits(2, hyphen) &&
+           digits(hyphen + 1, text.size());
+}
+
+// The headers of the projects named in the day files, each file read once an export.
+class ProjectDetails {
+  public:
+    const ProjectHeader* Of(const std::string& projectNo) {
+        auto it = headers_.find(projectNo);
+        if (it == headers_.end()) {
+            std::optional<ProjectHeader> header;
+            if (IsProjectNumber(projectNo) && FindFile(ProjectFilePath(projectNo)))
+                header = LoadProjectFile(ProjectFilePath(projectNo)).header;
+            it = headers_.emplace(projectNo, std::move(header)).first;
+        }
+        return it->second ? &*it->second : nullptr;
+    }
+
+  private:
+    std::map<std::string, std::optional<ProjectHeader>> headers_;
+};
+
+std::string JoinNonEmpty(std::initializer_list<std::string> parts, const std::string& between) {
+    std::string out;
+    for (const std::string& part : parts) {
+        if (part.empty()) continue;
+        if (!out.empty()) out += between;
+        out += part;
+    }
+    return out;
+}
+
 std::string SafeFileName(std::string name) {
     for (char& c : name)
         if (std::string_view("\\/:*?\"<>|").find(c) != std::string_view::npos || c < ' ') c = '-';
     return name;
 }
 
-void AddEvent(CalendarWriter& out, const ScheduleEvent& event, bool namesTeams, DateTime stamp) {
+void AddEvent(CalendarWriter& out, const ScheduleEvent& event, bool namesTeams, DateTime stamp,
+              ProjectDetails& projects) {
     const std::string team = TeamName(event.team);
     out.Begin("VEVENT");
     out.Add("UID", FormatDateValue(event.day) + "-T" + std::to_string(event.team) + "-S" +
@@ -86,7 +128,20 @@ void AddEvent(CalendarWriter& out, const ScheduleEvent& event, bool namesTeams, 
         std::string project, milestone;
         if (SplitMilestone(event.text, project, milestone)) {
             summary = project + " " + milestone;
-            description += "\nProject: " + project + "\nMilestone: " + milestone;
+            const ProjectHeader* header = projects.Of(project);
+            description +=
+                "\nProject: " + JoinNonEmpty({project, header ? header->title : ""}, " ") +
+                "\nMilestone: " + milestone;
+            if (header) {
+                description += "\nCustomer: " + header->billingName;
+                if (!header->billingTelephone.empty())
+                    description += "\nTelephone: " + header->billingTelephone;
+                const std::string site = JoinNonEmpty(
+                    {header->siteAddress1, header->siteAddress2,
+                     JoinNonEmpty({header->siteCity, header->siteState, header->siteZip}, " ")},
+                    ", ");
+                if (!site.empty()) out.AddText("LOCATION", site);
+            }
         }
         description += "\nHours: " + std::to_string(event.slots);
     }
@@ -148,9 +203,11 @@ std::string ScheduleCalendar(const std::vector<ScheduleEvent>& events,
     out.Add("VERSION", "2.0");
     out.Add("PRODID", kProductId);
     out.Add("CALSCALE", "GREGORIAN");
-    out.Add("METHOD", "PUBLISH");
+    // A plain calendar to subscribe to: no METHOD, which would make it a scheduling message
+    // whose events need an organizer.
     out.AddText("X-WR-CALNAME", calendarName);
-    for (const ScheduleEvent& event : events) AddEvent(out, event, namesTeams, stamp);
+    ProjectDetails projects;
+    for (const ScheduleEvent& event : events) AddEvent(out, event, namesTeams, stamp, projects);
     out.End("VCALENDAR");
     return out.Bytes();
 }

@@ -65,7 +65,7 @@ DateTime BlockDefaultDate() {
 
 frmBlock::frmBlock() : Form(kName) {
     SetCaption("Holiday and Vacation Days");
-    SetSize(14400, 7500);
+    SetSize(14400, 6960);
 
     fraInstructions.SetCaption("Instructions");
     fraInstructions.Move(120, 120, 8400, 1320);
@@ -108,14 +108,14 @@ frmBlock::frmBlock() : Form(kName) {
     cmdExit.Move(7020, 5280, 1500, 435);
 
     fraBlockedDays.SetCaption("Blocked Days");
-    fraBlockedDays.Move(8760, 120, 5400, 6480);
+    fraBlockedDays.Move(8760, 120, 5400, 6000);
     FGBlocked.SetContainer("fraBlockedDays");
     FGBlocked.SetFixedCols(0);
     FGBlocked.SetFormatString("<Team|^Date|Reason");
     FGBlocked.SetColWidth(0, 2160);
     FGBlocked.SetColWidth(1, 1200);
     FGBlocked.SetColWidth(2, 1500);
-    FGBlocked.Move(120, 960, 5160, 4800);
+    FGBlocked.Move(120, 960, 5160, 4320);
     lblStartSearch.SetContainer("fraBlockedDays");
     lblStartSearch.SetCaption("From");
     lblStartSearch.Move(120, 300, 1500, 255);
@@ -131,10 +131,10 @@ frmBlock::frmBlock() : Form(kName) {
     cmdSearch.Move(3480, 480, 1800, 375);
     cmdClearGrid.SetContainer("fraBlockedDays");
     cmdClearGrid.SetCaption("C&lear Grid");
-    cmdClearGrid.Move(120, 5880, 1800, 435);
+    cmdClearGrid.Move(120, 5400, 1800, 435);
     cmdHideGrid.SetContainer("fraBlockedDays");
     cmdHideGrid.SetCaption("&Hide Grid");
-    cmdHideGrid.Move(3480, 5880, 1800, 435);
+    cmdHideGrid.Move(3480, 5400, 1800, 435);
 
     mnuBlocked.SetCaption("&Blocked Days");
     mnuCalendar.SetCaption("&iCalendar");

@@ -36,6 +36,11 @@ TEST_F(BlockTest, AScheduleExportsOneEventABlockedDayAndOneAMilestonesHoursADay)
     folder.Write("2026/Team#1/173.txt", BlockedBytes("Holiday"));
     folder.Write("2026/Team#1/174.txt", DayWith("", 1, 12));  // empty slots are free
     folder.Write("2026/Team#2/169.txt", BlockedBytes("Vacation"));
+    folder.Write(
+        "ConstructionProjects/Pj160-1.txt",
+        "\"Pj160-1\",\"Kitchen\",\"A100\",\"Proposal Number\",\"John Smith\",\"1 Elm "
+        "St\",\"\",\"Springfield\",\"IL\",\"62701\",\"217-555-0101\",\"John Smith\",\"9 Oak "
+        "Rd\",\"\",\"Shelbyville\",\"IL\",\"62565\",\"217-555-0199\",0\r\n");
     const auto events =
         CollectScheduleEvents(1, 1, DateTime::FromYmd(2026, 6, 15), DateTime::FromYmd(2026, 7, 15));
     ASSERT_EQ(events.size(), 3u);
@@ -58,13 +63,18 @@ TEST_F(BlockTest, AScheduleExportsOneEventABlockedDayAndOneAMilestonesHoursADay)
     EXPECT_EQ(read[0].summary, "Pj160-1 Framing");
     EXPECT_EQ(read[0].start, "20260618T080000");
     EXPECT_EQ(read[0].end, "20260618T170000");
+    // The project file adds its title, the customer and the site.
     EXPECT_EQ(read[0].description,
-              "Assignment: Crew A\nProject: Pj160-1\nMilestone: Framing\nHours: 8");
+              "Assignment: Crew A\nProject: Pj160-1 Kitchen\nMilestone: Framing\nCustomer: John "
+              "Smith\nTelephone: 217-555-0101\nHours: 8");
+    EXPECT_NE(bytes.find("\r\nLOCATION:9 Oak Rd\\, Shelbyville IL 62565\r\n"), std::string::npos);
+    // Without its file (a project already deleted) the event keeps what the day file says.
+    EXPECT_EQ(read[1].description,
+              "Assignment: Crew A\nProject: Pj161-2\nMilestone: Site visit, roof\nHours: 2");
     // Across the missing noon hour: 11:00 to 2:00pm, two hours of work.
     EXPECT_EQ(read[1].summary, "Pj161-2 Site visit, roof");
     EXPECT_EQ(read[1].start, "20260619T110000");
     EXPECT_EQ(read[1].end, "20260619T140000");
-    EXPECT_EQ(read[1].description.substr(read[1].description.size() - 8), "Hours: 2");
     EXPECT_EQ(read[2].summary, "Holiday");
     EXPECT_EQ(read[2].start, "20260622");
 }
