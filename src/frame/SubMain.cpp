@@ -1,6 +1,8 @@
 #include "frame/SubMain.h"
 
 #include "blocked/frmBlock.h"
+#include "control/ProjectTables.h"
+#include "control/frmProjectControl.h"
 #include "frame/Navigation.h"
 #include "frame/frmAbout.h"
 #include "frame/frmStartup.h"
@@ -45,8 +47,10 @@ void RegisterScreens() {
     Register<frmWelcome>();
     Register<frmSetup>();
     Register<frmBlock>();
+    Register<frmProjectControl>();
     ExitProgramHook = [] { ExitProgram(); };
     ShowMainMenuHook = [] { Forms::Get(frmStartup::kName).Show(); };
+    OpenManualHook = [] { OpenAddress(kManualAddress); };
 }
 
 void ResetProgramState() {
@@ -55,6 +59,7 @@ void ResetProgramState() {
     ResetSharedState();
     ResetDayState();
     ResetCharacteristics();
+    ResetProjectTables();
 }
 
 void SubMain() {

@@ -34,14 +34,23 @@ std::string& ProgramName() {
     return name;
 }
 
+// One separator, and no blanks at the end of a component: the file system of the data's
+// home drops them, so "Team#1 " names the folder Team#1.
 std::string Normalise(const std::string& path) {
     std::string out;
     out.reserve(path.size());
+    auto dropTrailingBlanks = [&out] {
+        size_t start = out.rfind('/');
+        start = start == std::string::npos ? 0 : start + 1;
+        while (out.size() > start && out.back() == ' ') out.pop_back();
+    };
     for (char c : path) {
         if (c == '\\') c = '/';
+        if (c == '/') dropTrailingBlanks();
         if (c == '/' && !out.empty() && out.back() == '/') continue;
         out += c;
     }
+    dropTrailingBlanks();
     while (out.size() > 1 && out.back() == '/') out.pop_back();
     return out;
 }

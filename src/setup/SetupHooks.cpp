@@ -6,6 +6,7 @@
 std::function<void()> ExitProgramHook;
 std::function<void()> ShowMainMenuHook;
 std::function<void()> ProbeModemHook;
+std::function<void()> OpenManualHook;
 
 void ExitProgramFromSetup() {
     if (ExitProgramHook) {
@@ -21,4 +22,12 @@ void ShowMainMenuFromSetup() {
         return;
     }
     if (platform::Forms::Known("frmStartup")) platform::Forms::Get("frmStartup").Show();
+}
+
+void OpenManualFromSetup() {
+    if (OpenManualHook) {
+        OpenManualHook();
+        return;
+    }
+    platform::Ui().OpenUrl("https://www.norvax.com/construction/manual.html");
 }

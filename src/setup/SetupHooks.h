@@ -12,7 +12,10 @@ extern std::function<void()> ShowMainMenuHook;
 // Looks for the modem on the serial ports and sets the port on the phone page. Run first
 // by the phone settings at load; with none set, the stored port is all there is.
 extern std::function<void()> ProbeModemHook;
+// Starts the browser on the user manual. Fallback: the platform opens the address.
+extern std::function<void()> OpenManualHook;
 
 // Runs the hook, or its fallback.
 void ExitProgramFromSetup();
 void ShowMainMenuFromSetup();
+void OpenManualFromSetup();
