@@ -5,12 +5,15 @@
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
 #include "platform/Ui.h"
+#include "projects/ProjectRecord.h"
 #include "schedule/SchedulerRoutines.h"
 #include "schedule/Workdays.h"
 #include "store/BasicDiskRoutines.h"
 #include "store/SharedState.h"
 
 using namespace platform;
+using projects::kProjectRecord;
+using projects::kProjectRecordsFile;
 
 void ClearjDayEvents(frmProjectControl& f, int project, int milestone) {
     const Milestone ms = MilestoneOf(project, milestone);
@@ -72,10 +75,10 @@ void DeleteProject(frmProjectControl& f, int project, const std::string& project
     DeleteFile(ProjectFilePath(projectNo));
     if (!FindFile(kProjectRecordsFile)) return;
 
-    const int count = CountRecords(kProjectRecordsFile, kProjectRecordLength);
-    OpenRandom(kProjectRecordsFile, kProjectRecordLength);
+    const int count = CountRecords(kProjectRecordsFile, static_cast<int>(kProjectRecord.Length()));
+    OpenRandom(kProjectRecordsFile, static_cast<int>(kProjectRecord.Length()));
     const int source = MainFileNo;
-    OpenTemporaryFile(kProjectRecordLength);
+    OpenTemporaryFile(static_cast<int>(kProjectRecord.Length()));
     // The records are meant to be dropped when their project number is the project's, but
     // the test compares the project's row number with the text of that field, and the two
     // never count as equal: every record is kept, as it was.
@@ -85,6 +88,6 @@ void DeleteProject(frmProjectControl& f, int project, const std::string& project
     CloseAll();
     DeleteEverywhere(kProjectRecordsFile);
     ReplaceWithTemporary(kProjectRecordsFile);
-    if (CountRecords(kProjectRecordsFile, kProjectRecordLength) < 1)
+    if (CountRecords(kProjectRecordsFile, static_cast<int>(kProjectRecord.Length())) < 1)
         DeleteEverywhere(kProjectRecordsFile);
 }

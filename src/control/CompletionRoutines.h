@@ -7,8 +7,6 @@ class frmProjectControl;
 // The end of milestones and projects: taking a milestone out of the day files, posting it as
 // completed, and deleting a project.
 
-constexpr const char* kProjectRecordsFile = "\\ProjectRecords.txt";
-
 // Frees the milestone's slots in the day files of CurrentTeam, from its date on, for as many
 // workdays as it lasts. Past milestones and administrative ones are left alone.
 void ClearjDayEvents(frmProjectControl& form, int project, int milestone);

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "control/ProjectFileFormat.h"
+#include "projects/ProjectFiles.h"
 #include "platform/DateTime.h"
 
 // The project tables: every file of ConstructionProjects read into memory when the project

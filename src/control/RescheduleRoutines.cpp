@@ -179,6 +179,10 @@ void PlaceMilestone(frmProjectControl& f) {
             PlaceHours(f);
         } else {
             const int days = TextToInteger(Selected(f).time);
+            // The scan only counts busy days here; neither its answer nor its date is used.
+            DateTime scanned = f.MSCal.Value();
+            std::int16_t conflict = 0;
+            CheckConsecutiveDays(scanned, days, conflict);
             DateTime first = f.MSCal.Value();
             WriteDays(first, days, EventText(f.SelProject, f.SelMilestone));
             PostReschedule(f);
