@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "projects/ProjectFiles.h"
 #include "platform/DateTime.h"
+#include "projects/ProjectFiles.h"
 
 // The project tables: every file of ConstructionProjects read into memory when the project
 // control screen opens. Rescheduling and completing change the tables and write the day files
