@@ -56,18 +56,18 @@ inline std::string ProjectBytes(const std::string& projectNo, const std::string&
 
 // Twelve day slots, the working block (slots 3 to 10) holding the text.
 inline std::string BlockDay(const std::string& text, const std::string& other = "") {
-    std::string slots[12];
-    for (int i = 0; i < 12; ++i) slots[i] = "No Event Scheduled";
-    for (int i = 2; i <= 9; ++i) slots[i] = text;
-    if (!other.empty()) slots[0] = other;
-    return testing_support::DayFileBytes(slots);
+    std::string daySlots[12];
+    for (int i = 0; i < 12; ++i) daySlots[i] = "No Event Scheduled";
+    for (int i = 2; i <= 9; ++i) daySlots[i] = text;
+    if (!other.empty()) daySlots[0] = other;
+    return testing_support::DayFileBytes(daySlots);
 }
 
 inline std::string HoursDay(int first, int count, const std::string& text) {
-    std::string slots[12];
-    for (int i = 0; i < 12; ++i) slots[i] = "No Event Scheduled";
-    for (int i = first; i < first + count; ++i) slots[i - 1] = text;
-    return testing_support::DayFileBytes(slots);
+    std::string daySlots[12];
+    for (int i = 0; i < 12; ++i) daySlots[i] = "No Event Scheduled";
+    for (int i = first; i < first + count; ++i) daySlots[i - 1] = text;
+    return testing_support::DayFileBytes(daySlots);
 }
 
 // A program folder with two teams and a customer, on Monday 15 June 2026 at 9:00.
