@@ -309,14 +309,20 @@ void frmProjectControl::ShowCalendar(const std::string& mode) {
     }
 }
 
+// The empty row of a list without projects leads nowhere.
+bool frmProjectControl::ProjectRowChosen() const {
+    return ProjectsLoaded && fgProjects.Row() >= 1 && fgProjects.Row() <= ProjectCount;
+}
+
 void frmProjectControl::fgProjects_MouseUp(int button) {
-    if (button != 2) return;
+    if (button != 2 || !ProjectRowChosen()) return;
     SelProject = fgProjects.Row();
     PopupMenu(mnuProjectS);
     LoadProjectSummary(*this);
 }
 
 void frmProjectControl::fgProjects_DblClick() {
+    if (!ProjectRowChosen()) return;
     SelProject = fgProjects.Row();
     LoadProjectSummary(*this);
     mnuProjectSummary_Click();

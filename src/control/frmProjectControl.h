@@ -124,6 +124,7 @@ class frmProjectControl : public platform::Form {
     void ShowCalendar(const std::string& mode);
 
   private:
+    bool ProjectRowChosen() const;
     void LayOut();
     void RegisterHandlers();
 };

@@ -58,6 +58,24 @@ TEST_F(ProjectList, WithoutProjectFilesTheListIsEmptyAndTheRoutinesAreOff) {
     EXPECT_FALSE(f.mnuClearAll.Enabled());
     EXPECT_FALSE(f.mnuPrintAll.Enabled());
     EXPECT_TRUE(f.fraProjects.Visible());
+    // The empty row offers nothing.
+    Do([&] { f.fgProjects.UserClick(1, 0, 2); });
+    Do([&] { f.fgProjects.UserDoubleClick(1, 0); });
+    EXPECT_FALSE(ProgramHasEnded());
+    EXPECT_FALSE(f.fraProjectSummary.Visible());
+}
+
+TEST_F(ProjectList, ClosingTheWindowSavesTheChangesAndEndsTheProgram) {
+    folder.Write("ConstructionProjects/Pj160-1.txt",
+                 ProjectBytes("Pj160-1", "New Installation", FourMilestones()));
+    auto& f = Open();
+    SelectMilestone(f, 1, 4);
+    Do([&] { f.mnuComplete.Raise("Click"); });
+    Do([&] { f.MSCal.UserPick(DateTime::FromYmd(2026, 6, 15)); });
+    Do([&] { f.UserClose(); });
+    EXPECT_TRUE(ProgramHasEnded());
+    EXPECT_NE(folder.Read("ConstructionProjects/Pj160-1.txt").find("\"Completed\",\"6/15/2026\""),
+              std::string::npos);
 }
 
 TEST_F(ProjectList, SummaryAndDetailsShowTheProjectAndItsMilestone) {

@@ -23,8 +23,8 @@ class ReportsPdf : public ControlTest {
         ControlTest::SetUp();
         std::vector<MilestoneLine> job = {
             {"Permit", 1, "2026-06-10", 1, 0, 0, "", "Office", "", "", ""},
-            {"Demolition", 2, "2026-06-11", 2, 0, 0, "1", "On Site", "3", "1", "Days",
-             "Completed", "6/11/2026"},
+            {"Demolition", 2, "2026-06-11", 2, 0, 0, "1", "On Site", "3", "1", "Days", "Completed",
+             "6/11/2026"},
             {"Framing", 2, "2026-06-17", 2, 0, 0, "1", "On Site", "3", "2", "Days"},
             {"Inspection", 2, "2026-06-22", 2, 3, 3, "2", "Office/Shop", "4", "2", "Hours"},
             {"Cleanup", 2, "2026-06-24", 3, 0, 0, "2", "On Site", "3", "1", "Days"},
