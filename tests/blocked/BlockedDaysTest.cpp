@@ -37,6 +37,15 @@ TEST_F(BlockTest, PlacementAndTheDayViewSeeABlockedDayAsBusyAndARestoredOneAsFre
     EXPECT_EQ(conflict, -1);
     for (int slot = 1; slot <= 12; ++slot) EXPECT_EQ(DaySlots[slot], "Sick Day");
 
+    // Placing two days from Thursday passes over the blocked Friday to Monday and Tuesday.
+    DateTime date = DateTime::FromYmd(2026, 6, 18);
+    const int scanned = ScanCount();
+    conflict = 0;
+    CheckConsecutiveDays(date, 2, conflict);
+    EXPECT_EQ(conflict, 0);
+    EXPECT_EQ(date, DateTime::FromYmd(2026, 6, 23));
+    EXPECT_EQ(ScanCount(), scanned + 1);
+
     form.optAction[1].SetValue(true);
     Request(form, kFriday, 0, 1);
     EXPECT_EQ(folder.Read("2026/Team#1/170.txt"), BlockedBytes("No Event Scheduled"));
