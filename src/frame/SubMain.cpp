@@ -1,5 +1,6 @@
 #include "frame/SubMain.h"
 
+#include "blocked/frmAdmin.h"
 #include "blocked/frmBlock.h"
 #include "control/ProjectTables.h"
 #include "control/frmProjectControl.h"
@@ -47,6 +48,7 @@ void RegisterScreens() {
     Register<frmWelcome>();
     Register<frmSetup>();
     Register<frmBlock>();
+    Register<frmAdmin>();
     Register<frmProjectControl>();
     ExitProgramHook = [] { ExitProgram(); };
     ShowMainMenuHook = [] { Forms::Get(frmStartup::kName).Show(); };
