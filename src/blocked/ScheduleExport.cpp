@@ -6,6 +6,7 @@
 #include <map>
 #include <optional>
 
+#include "blocked/DayFileSearch.h"
 #include "blocked/ICalendarFormat.h"
 #include "blocked/frmBlock.h"
 #include "platform/Dialogs.h"
@@ -173,12 +174,11 @@ bool WriteWhole(const std::string& path, const std::string& bytes) {
 std::vector<ScheduleEvent> CollectScheduleEvents(int firstTeam, int lastTeam, DateTime first,
                                                  DateTime last) {
     std::vector<ScheduleEvent> events;
+    DayFileSearch files;
     for (int team = firstTeam; team <= lastTeam; ++team) {
         const std::string teamText = std::to_string(team);
         for (DateTime day = first.DateOnly(); day <= last.DateOnly(); day = day.AddDays(1)) {
-            const std::string path = "\\" + std::to_string(day.Year()) + "\\Team#" + teamText +
-                                     "\\" + std::to_string(day.DayOfYear()) + ".txt";
-            if (!FindFile(path)) continue;
+            if (!files.Find(day, team)) continue;
             ReadDay(day, teamText);
             if (IsBlockedDay()) {
                 events.push_back({team, day, true, 1, 12, DaySlots[1]});

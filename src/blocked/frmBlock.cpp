@@ -1,10 +1,8 @@
 #include "blocked/frmBlock.h"
 
 #include <algorithm>
-#include <cctype>
-#include <map>
-#include <set>
 
+#include "blocked/DayFileSearch.h"
 #include "blocked/HolidayImport.h"
 #include "blocked/ScheduleExport.h"
 #include "platform/Files.h"
@@ -30,31 +28,6 @@ bool IsBlockReason(const std::string& text) {
     return std::find(std::begin(kBlockReasons), std::end(kBlockReasons), text) !=
            std::end(kBlockReasons);
 }
-
-// The day files of a team folder and of its copy below Backup, listed once a folder.
-class DayFileListing {
-  public:
-    bool Holds(const std::string& folder, const std::string& name) {
-        auto it = names_.find(folder);
-        if (it == names_.end()) {
-            std::set<std::string>& names = names_[folder];
-            for (const std::string& root : {std::string(), std::string("\\Backup")}) {
-                const std::string path = DataPath(root + folder);
-                if (!FolderExists(path)) continue;
-                for (std::string file : Dir(path + "*.txt")) names.insert(Lower(std::move(file)));
-            }
-            it = names_.find(folder);
-        }
-        return it->second.count(Lower(name)) > 0;
-    }
-
-  private:
-    static std::string Lower(std::string text) {
-        for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-        return text;
-    }
-    std::map<std::string, std::set<std::string>> names_;
-};
 
 }  // namespace
 
@@ -373,16 +346,12 @@ void frmBlock::cmdSearch_Click() {
     FGBlocked.SetRow(1);
     const DateTime first = DTStartSearch.Value().DateOnly();
     const DateTime last = DTEndSearch.Value().DateOnly();
+    DayFileSearch files;
     for (int team = 1; team <= TeamCount(); ++team) {
-        const std::string teamFolder = "\\Team#" + std::to_string(team) + "\\";
-        // Each folder is listed once; only the days found there are looked at.
-        DayFileListing present;
         for (DateTime date = first; date <= last; date = date.AddDays(1)) {
-            const std::string folder = "\\" + std::to_string(date.Year()) + teamFolder;
-            const std::string name = std::to_string(date.DayOfYear()) + ".txt";
-            if (!present.Holds(folder, name)) continue;
-            if (!FindFile(folder + name)) continue;
-            OpenForInput(folder + name);
+            if (!files.Find(date, team)) continue;
+            const std::string path = DayFileSearch::PathOf(date, team);
+            OpenForInput(path);
             const std::string slot = Eof(MainFileNo) ? std::string() : InputString(MainFileNo);
             CloseAll();
             if (!IsBlockReason(slot)) continue;

@@ -49,28 +49,25 @@ FontAnswer HeadlessDialogs::ChooseFont(const std::string& current, double size, 
     return result;
 }
 
-FileAnswer HeadlessDialogs::ChooseOpenFile(const std::string& title, const std::string& filter,
-                                           const std::string& initialDir) {
+FileAnswer HeadlessDialogs::ChooseFile(const std::string& kind) {
     Answer queued;
     FileAnswer result;
     if (Next(queued) && queued.accepted && !queued.text.empty()) {
         result.accepted = true;
         result.path = queued.text;
     }
-    Record("open -> " + (result.accepted ? result.path : std::string("cancel")));
+    Record(kind + " -> " + (result.accepted ? result.path : std::string("cancel")));
     return result;
+}
+
+FileAnswer HeadlessDialogs::ChooseOpenFile(const std::string& title, const std::string& filter,
+                                           const std::string& initialDir) {
+    return ChooseFile("open");
 }
 
 FileAnswer HeadlessDialogs::ChooseSaveFile(const std::string& title, const std::string& filter,
                                            const std::string& proposedPath) {
-    Answer queued;
-    FileAnswer result;
-    if (Next(queued) && queued.accepted && !queued.text.empty()) {
-        result.accepted = true;
-        result.path = queued.text;
-    }
-    Record("save -> " + (result.accepted ? result.path : std::string("cancel")));
-    return result;
+    return ChooseFile("save");
 }
 
 PrinterAnswer HeadlessDialogs::ChoosePrinter(int flags, int copies) {

@@ -46,6 +46,7 @@ class HeadlessDialogs : public DialogBackend {
         int copies = 0;
     };
     bool Next(Answer& answer);
+    FileAnswer ChooseFile(const std::string& kind);  // "open" or "save"
     void Record(const std::string& line);
 
     std::deque<Answer> answers_;
