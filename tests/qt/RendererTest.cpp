@@ -104,7 +104,7 @@ TEST_F(RendererTest, ControlsSitInTheirFramesAndTabPages) {
     QWidget* option = WindowOf(form).WidgetOf(form.optKind1);
     EXPECT_EQ(option->parentWidget(), frame);
     EXPECT_EQ(option->geometry().topLeft(),
-              QPoint(platform::qt::ToPixels(120), platform::qt::ToPixels(620)));
+              QPoint(WindowOf(form).CurrentScale().X(120), WindowOf(form).CurrentScale().Y(620)));
     EXPECT_EQ(frame->title(), "Kind");
 
     // Only the page on show has its controls visible; a click on the strip turns the page.

@@ -31,7 +31,7 @@ QFont ProgramFont() {
     font.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("Arimo"),
                       QStringLiteral("Arial"), QStringLiteral("DejaVu Sans Condensed"),
                       QStringLiteral("DejaVu Sans")});
-    font.setPixelSize(static_cast<int>(std::lround(8.25 * 96.0 / 72.0 * kScale)));
+    font.setPixelSize(static_cast<int>(std::lround(8.25 * 96.0 / 72.0 * kBaseScale)));
     return font;
 }
 
