@@ -9,6 +9,8 @@ class frmAbout : public platform::Form {
 
     platform::Label lblTitle{*this, "lblTitle"};
     platform::Label lblVersion{*this, "lblVersion"};
+    platform::Label lblDescription{*this, "lblDescription"};
+    platform::Image imgIcon{*this, "imgIcon"};
     platform::CommandButton cmdVisit{*this, "cmdVisit"};
     platform::CommandButton cmdOK{*this, "cmdOK"};
 

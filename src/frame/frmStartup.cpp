@@ -2,6 +2,7 @@
 
 #include "frame/Navigation.h"
 #include "platform/Files.h"
+#include "platform/Pictures.h"
 #include "platform/Ui.h"
 #include "store/BasicDiskRoutines.h"
 #include "store/SharedState.h"
@@ -56,8 +57,10 @@ frmStartup::frmStartup() : Form(kName) {
     Label1[1].SetAlignment(2);
     Label1[1].Move(240, 600, 6600, 300);
 
+    Image1.SetPicture(pictures::kSetup);
     Image1.Move(7200, 180, 960, 960);
     Image1.SetToolTipText("Setup");
+    Image2.SetPicture(pictures::kProgram);
     Image2.Move(7200, 1320, 960, 960);
     Image2.SetVisible(false);
 

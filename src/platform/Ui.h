@@ -19,6 +19,10 @@ constexpr int vbCritical = 16;
 constexpr int vbQuestion = 32;
 constexpr int vbExclamation = 48;
 constexpr int vbInformation = 64;
+// Which button Enter answers; a question that destroys something defaults to its second.
+constexpr int vbDefaultButton1 = 0;
+constexpr int vbDefaultButton2 = 256;
+constexpr int vbDefaultButton3 = 512;
 constexpr int vbOK = 1;
 constexpr int vbCancel = 2;
 constexpr int vbYes = 6;

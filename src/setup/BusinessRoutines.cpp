@@ -136,8 +136,8 @@ void FlipAddressStyle(frmSetup& form) {
 }
 
 void ClearBusinessData(frmSetup& form) {
-    if (MsgBox("Do you want to reset (clear)all Business Data?", vbYesNo + vbQuestion,
-               "Reset Business Data") != vbYes)
+    if (MsgBox("Do you want to reset (clear)all Business Data?",
+               vbYesNo + vbQuestion + vbDefaultButton2, "Reset Business Data") != vbYes)
         return;
     for (int i = 0; i < 9; ++i) form.txtBusiness[i].SetText("");
     form.txtBusiness[0].SetFocus();
@@ -279,8 +279,8 @@ void LogoAction(frmSetup& form, int index) {
             form.cmdLogo[1].SetEnabled(false);
             break;
         case 2:  // Clear
-            if (MsgBox("This will Delete your Company Logo", vbYesNo + vbQuestion, "Delete Logo") !=
-                vbYes)
+            if (MsgBox("This will Delete your Company Logo",
+                       vbYesNo + vbQuestion + vbDefaultButton2, "Delete Logo") != vbYes)
                 return;
             form.Image2.SetPicture("");
             form.Image3.SetPicture("");

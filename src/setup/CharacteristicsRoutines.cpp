@@ -230,7 +230,7 @@ void DeleteMilestone(frmSetup& form) {
         "You must proceed to ATTRIBUTES and Rebuild Them\r\n"
         "Milestones can be ignored in any Project Schedule\r\n"
         "Press OK to continue to Delete",
-        vbOKCancel + vbExclamation, "Delete Warning");
+        vbOKCancel + vbExclamation + vbDefaultButton2, "Delete Warning");
     if (answer != vbOK) return;
     list.RemoveItem(entry);
     --MilestoneCount;
@@ -247,8 +247,8 @@ void DeleteMilestone(frmSetup& form) {
 }
 
 void ClearMilestones(frmSetup& form) {
-    if (MsgBox("This will Clear All Milestones", vbOKCancel + vbQuestion, "Clear Milestones") !=
-        vbOK)
+    if (MsgBox("This will Clear All Milestones", vbOKCancel + vbQuestion + vbDefaultButton2,
+               "Clear Milestones") != vbOK)
         return;
     ClearCombo(form.cboMilestones);
     form.CharacteristicsExist = false;

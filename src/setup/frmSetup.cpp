@@ -1,6 +1,7 @@
 #include "setup/frmSetup.h"
 
 #include "platform/Dialogs.h"
+#include "platform/Pictures.h"
 #include "platform/Ui.h"
 #include "schedule/Teams.h"
 #include "setup/AssignmentRoutines.h"
@@ -53,7 +54,7 @@ void frmSetup::LayOut() {
 
     for (int i = 0; i < Image1.Count(); ++i) {
         Place(Image1[i], kTab, i, 9600, 6540, 375, 375);
-        Image1[i].SetCaption(">>");
+        Image1[i].SetPicture(pictures::kNextPage);
         Image1[i].SetToolTipText("Next Page");
         Place(lblNextTab[i], kTab, i, 8280, 6585, 1215, 285);
         lblNextTab[i].SetCaption("Next Page");
@@ -96,12 +97,12 @@ void frmSetup::LayOut() {
     cmdAddress.SetCaption(kUsaStyle);
     cmdAddress.SetToolTipText("Change the Style of Address");
     Place(Image4, kTab, kBusinessTab, 7320, 1680, 480, 480);
-    Image4.SetCaption("X");
+    Image4.SetPicture(pictures::kClear);
     Image4.SetToolTipText("Clear All business Data");
     Place(lblClearBusiness, kTab, kBusinessTab, 7920, 1770, 1935, 285);
     lblClearBusiness.SetCaption("Clear Business Data");
     Place(Image5, kTab, kBusinessTab, 7320, 2280, 480, 480);
-    Image5.SetCaption("<>");
+    Image5.SetPicture(pictures::kReload);
     Image5.SetToolTipText("Reload Business Data");
     Place(lblReloadBusiness, kTab, kBusinessTab, 7920, 2370, 1935, 285);
     lblReloadBusiness.SetCaption("Reload Business Data");

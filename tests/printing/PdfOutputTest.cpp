@@ -4,7 +4,10 @@
 #include <cstdlib>
 #include <fstream>
 
+#include <QFontMetricsF>
+
 #include "platform/qtdevices/DocumentPainter.h"
+#include "platform/qtdevices/MetricFonts.h"
 #include "platform/qtdevices/QtDevices.h"
 #include "platform/qtdevices/QtDialogs.h"
 #include "printing/GenericForm.h"
@@ -110,6 +113,47 @@ TEST_F(PdfOutputTest, PagesKeepTheirOwnOrientation) {
     EXPECT_EQ(landscape.width(), Px(15840));
     EXPECT_TRUE(Inked(landscape, Px(10000), Px(1520)));
     platform::WriteDocumentPdf(document, std::string(PDF_OUTPUT_DIR) + "/two-pages.pdf");
+}
+
+TEST_F(PdfOutputTest, TextGoesToPdfInTheFontItWasMeasuredIn) {
+    InitPrinter("Portrait", false);
+    SetPrintFont(12, false, false);
+    SetPrintPosition(1.0f, 1.0f);
+    Printer().Print("Hammer & Sons Construction");
+    Printer().EndDoc();
+    const auto& document = RecordingPrinter().LastDocument();
+    const std::string pdf = std::string(PDF_OUTPUT_DIR) + "/measured-font.pdf";
+    platform::WriteDocumentPdf(document, pdf);
+    std::ifstream in(pdf, std::ios::binary);
+    const std::string bytes((std::istreambuf_iterator<char>(in)), {});
+    EXPECT_NE(bytes.find("LiberationSans"), std::string::npos) << "the PDF carries another font";
+
+    // Its twin draws the text as wide as it was measured, so nothing is squeezed to fit.
+    platform::PrintFont font;
+    font.name = "Arial";
+    font.size = 12;
+    const std::string text = "Hammer & Sons Construction";
+    const double measured = RecordingPrinter().TextWidth(font, text);
+    QFont drawn = platform::ToQFont(font);
+    drawn.setPixelSize(2400);  // an em of 2400 pixels, large enough that hinting does not count
+    const double ems = QFontMetricsF(drawn).horizontalAdvance(QString::fromStdString(text)) / 2400;
+    const double width = ems * 12 * 20;  // twips at 12 points
+    EXPECT_NEAR(width / measured, 1.0, 0.02);
+}
+
+TEST(MetricFontsTest, WindowsNamesAreShownByTheirTwinsAndKeptUnderTheirOwnNames) {
+    const struct {
+        const char* kept;
+        const char* installed;
+    } twins[] = {{"Arial", "Liberation Sans"},
+                 {"Times New Roman", "Liberation Serif"},
+                 {"Courier New", "Liberation Mono"}};
+    for (const auto& twin : twins) {
+        SCOPED_TRACE(twin.kept);
+        EXPECT_EQ(platform::InstalledFamily(twin.kept).toStdString(), twin.installed);
+        EXPECT_EQ(platform::KeptFontName(QString::fromLatin1(twin.installed)), twin.kept);
+    }
+    EXPECT_EQ(platform::KeptFontName(QStringLiteral("DejaVu Sans")), "DejaVu Sans");
 }
 
 TEST(QtFilterTest, TheLogoFilterOffersItsPictures) {

@@ -31,6 +31,8 @@ class BoxAnswerer {
         timer_.start();
     }
     void Queue(int answer) { answers_.push_back(answer); }
+    // Called with each box as it comes up, before it is answered.
+    void OnEachBox(std::function<void(QMessageBox&)> look) { look_ = std::move(look); }
     const std::vector<std::string>& Seen() const { return seen_; }
 
   private:
@@ -40,6 +42,7 @@ class BoxAnswerer {
             if (!box || !box->isVisible()) continue;
             seen_.push_back("[" + platform::qt::ToAnsi(box->windowTitle()) + "] " +
                             platform::qt::ToAnsi(box->text()));
+            if (look_) look_(*box);
             QAbstractButton* button = box->defaultButton();
             if (!answers_.empty()) {
                 const int answer = answers_.front();
@@ -56,6 +59,7 @@ class BoxAnswerer {
     QTimer timer_;
     std::deque<int> answers_;
     std::vector<std::string> seen_;
+    std::function<void(QMessageBox&)> look_;
 };
 
 // A program folder with the desktop backend in place of the headless one.

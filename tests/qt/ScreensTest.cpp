@@ -1,11 +1,18 @@
-// The program's own screens in real windows: each one drawn legibly from its registry, and
-// the first run walked through with the mouse and keyboard alone.
+// The program's own screens in real windows: each one, every tab and inner page of it, drawn
+// legibly from its registry at the size of the screen it is shown on, and the first run walked
+// through with the mouse and with the keyboard alone. CTest runs this suite again on screens
+// of 1600x1000, 1280x720 and 1600x1000 at scale 2 (see CMakeLists.txt); each run keeps its
+// pictures in a folder named after the screen.
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QDir>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyle>
 #include <QTabBar>
 #include <QTest>
 #include <filesystem>
@@ -16,6 +23,9 @@
 #include "frame/frmWelcome.h"
 #include "platform/Files.h"
 #include "platform/Form.h"
+#include "platform/Pictures.h"
+#include "platform/qt/ControlView.h"
+#include "platform/qt/ImageView.h"
 #include "setup/frmSetup.h"
 
 using namespace qt_testing;
@@ -38,24 +48,30 @@ bool HasWidget(ControlType type) {
     return type != ControlType::Menu && type != ControlType::Timer;
 }
 
-// Everything wrong with how one screen is drawn, one line a fault.
+bool Shown(platform::qt::FormWindow& window, Control& c) {
+    QWidget* w = window.WidgetOf(c);
+    return HasWidget(c.Type()) && c.Visible() && w && w->isVisibleTo(&window);
+}
+
+// Everything wrong with how one screen is drawn, one line a fault: controls outside their
+// container or on top of each other, captions other than the model's or cut off, pictures
+// that draw nothing, and a window that does not fit its screen or scrolls.
 std::vector<std::string> LayoutFaults(platform::Form& form, platform::qt::FormWindow& window) {
     std::vector<std::string> faults;
     std::vector<std::pair<Control*, QWidget*>> shown;
+    bool hasMenu = false;
+    for (Control* m : form.Controls())
+        if (m->Type() == ControlType::Menu && m->Container().empty() && m->Visible())
+            hasMenu = true;
+    // The form's inner size as the original platform measures it from the outer one.
+    const QRect client(0, 0, form.Width() - 120, form.Height() - 405 - (hasMenu ? 285 : 0));
     for (Control* c : form.Controls()) {
-        if (!HasWidget(c->Type())) continue;
+        if (!Shown(window, *c)) continue;
         QWidget* w = window.WidgetOf(*c);
-        if (!w || !w->isVisibleTo(&window) || !c->Visible()) continue;
         shown.emplace_back(c, w);
-        const bool onForm = c->Container().empty();
-        bool hasMenu = false;
-        for (Control* m : form.Controls())
-            if (m->Type() == ControlType::Menu && m->Container().empty() && m->Visible())
-                hasMenu = true;
-        // The form's inner size as the original platform measures it from the outer one.
-        const QRect client(0, 0, form.Width() - 120, form.Height() - 405 - (hasMenu ? 285 : 0));
         const QRect twips(c->Left(), c->Top(), c->Width(), c->Height());
-        if (onForm ? !client.contains(twips) : !w->parentWidget()->rect().contains(w->geometry()))
+        if (c->Container().empty() ? !client.contains(twips)
+                                   : !w->parentWidget()->rect().contains(w->geometry()))
             faults.push_back(c->Key() + " reaches outside " +
                              (c->Container().empty() ? std::string("the form") : c->Container()));
         const QString caption = platform::qt::FromAnsi(c->Caption());
@@ -68,6 +84,32 @@ std::vector<std::string> LayoutFaults(platform::Form& form, platform::qt::FormWi
         if (auto* frame = qobject_cast<QGroupBox*>(w);
             frame && frame->title() != ShownText(caption))
             faults.push_back(c->Key() + " shows \"" + platform::qt::ToAnsi(frame->title()) + "\"");
+        if (auto* label = qobject_cast<QLabel*>(w); label && c->Type() == ControlType::Label) {
+            const int need = label->wordWrap() ? label->heightForWidth(label->width())
+                                               : label->sizeHint().height();
+            const int wide =
+                label->wordWrap() ? 0 : label->fontMetrics().horizontalAdvance(label->text());
+            if (need > label->height() + 2 || wide > label->width() + 2)
+                faults.push_back(c->Key() + " has its caption cut off");
+        } else if (auto* button = qobject_cast<QAbstractButton*>(w)) {
+            // Each line of the caption beside the box or tick mark the button draws.
+            const bool pushButton = c->Type() == ControlType::CommandButton;
+            const int mark =
+                pushButton ? 6 : button->style()->pixelMetric(QStyle::PM_IndicatorWidth) + 4;
+            const QStringList lines = ShownText(button->text()).split(u'\n');
+            int wide = 0;
+            for (const QString& line : lines)
+                wide = std::max(wide, button->fontMetrics().horizontalAdvance(line));
+            const int high = static_cast<int>(lines.size()) * button->fontMetrics().height();
+            if (wide + mark > button->width() + 2 || high > button->height() + 2)
+                faults.push_back(c->Key() + " has its caption cut off");
+        }
+        if (c->Type() == ControlType::Image) {
+            const auto& picture = static_cast<platform::Image*>(c)->Picture();
+            auto* view = dynamic_cast<platform::qt::ImageView*>(window.ViewOf(*c));
+            if (!picture.empty() && (!view || !view->ShowsPicture()))
+                faults.push_back(c->Key() + " draws no picture for " + picture);
+        }
     }
     for (size_t i = 0; i < shown.size(); ++i)
         for (size_t j = i + 1; j < shown.size(); ++j) {
@@ -77,35 +119,14 @@ std::vector<std::string> LayoutFaults(platform::Form& form, platform::qt::FormWi
                 wa->geometry().intersects(wb->geometry()))
                 faults.push_back(a->Key() + " overlaps " + b->Key());
         }
+    const QRect room = QApplication::primaryScreen()->availableGeometry();
+    if (window.width() > room.width() || window.height() > room.height())
+        faults.push_back("the window is larger than the screen");
+    if (auto* scroll = window.findChild<QScrollArea*>();
+        scroll && (scroll->horizontalScrollBar()->isVisible() ||
+                   scroll->verticalScrollBar()->isVisible()))
+        faults.push_back("the form scrolls");
     return faults;
-}
-
-// Captions too long for their box: the text would be cut off on screen.
-std::vector<std::string> ClippedCaptions(platform::Form& form, platform::qt::FormWindow& window) {
-    std::vector<std::string> clipped;
-    for (Control* c : form.Controls()) {
-        if (!HasWidget(c->Type()) || !c->Visible()) continue;
-        QWidget* w = window.WidgetOf(*c);
-        if (!w || !w->isVisibleTo(&window)) continue;
-        if (auto* label = qobject_cast<QLabel*>(w); label && c->Type() == ControlType::Label) {
-            const int need = label->wordWrap() ? label->heightForWidth(label->width())
-                                               : label->sizeHint().height();
-            const int wide =
-                label->wordWrap() ? 0 : label->fontMetrics().horizontalAdvance(label->text());
-            if (need > label->height() + 2 || wide > label->width() + 2)
-                clipped.push_back(c->Key());
-        } else if (auto* button = qobject_cast<QAbstractButton*>(w)) {
-            if (button->sizeHint().width() > button->width() + 4) clipped.push_back(c->Key());
-        }
-    }
-    return clipped;
-}
-
-// The whole window, even where the screen is smaller than the form.
-QPixmap FullShot(platform::qt::FormWindow& window) {
-    window.resize(window.NaturalSize());
-    QApplication::processEvents();
-    return window.grab();
 }
 
 std::string Joined(const std::vector<std::string>& lines) {
@@ -114,45 +135,91 @@ std::string Joined(const std::vector<std::string>& lines) {
     return out.str();
 }
 
+// One folder a screen: "1280x720", or "1600x1000@2x" with its pixels doubled.
+QString ShotFolder() {
+    const QScreen* screen = QApplication::primaryScreen();
+    const double ratio = screen->devicePixelRatio();
+    const QSize pixels = screen->size() * ratio;
+    QString name = QStringLiteral("%1x%2").arg(pixels.width()).arg(pixels.height());
+    if (ratio != 1.0) name += QStringLiteral("@%1x").arg(ratio);
+    const QString folder = QDir(QStringLiteral(SCREENSHOT_DIR)).filePath(name);
+    QDir().mkpath(folder);
+    return folder;
+}
+
+// The tab control a tab control stands on, with the page; null for one on the form.
+platform::Tab* OuterTab(platform::Form& form, Control& tab, int& page) {
+    Control* outer = tab.Container().empty() ? nullptr : form.Find(tab.Container());
+    page = tab.TabPage();
+    return outer && outer->Type() == ControlType::Tab ? static_cast<platform::Tab*>(outer)
+                                                      : nullptr;
+}
+
+QTabBar* StripOf(QWidget* tabControl) {
+    return tabControl->findChild<QTabBar*>(QString(), Qt::FindDirectChildrenOnly);
+}
+
 }  // namespace
 
 class ScreensTest : public QtFixture {
   protected:
     ScreensTest() {
         RegisterScreens();
-        std::filesystem::create_directories(SCREENSHOT_DIR);
         // A screen that holds the caller modally is photographed and sent away again.
         modalWatch_.setInterval(20);
         QObject::connect(&modalWatch_, &QTimer::timeout, [this] {
             for (platform::qt::FormWindow* w : backend.Windows()) {
                 if (!w->isVisible() || !w->Model().IsModal()) continue;
-                Photograph(w->Model());
+                Photograph(w->Model(), w->Model().Name());
                 platform::Form* form = &w->Model();
                 Dispatch([form] { form->Hide(); });
             }
         });
     }
 
-    void Photograph(platform::Form& form) {
+    // The window as the user sees it on this screen, checked for every fault.
+    void Photograph(platform::Form& form, const std::string& name) {
         platform::qt::FormWindow* window = backend.WindowOf(form);
         if (!window) return;
         backend.FlushAll();
         QApplication::processEvents();
-        const QString file = QDir(QStringLiteral(SCREENSHOT_DIR))
-                                 .filePath(QString::fromStdString(form.Name()) + ".png");
-        FullShot(*window).save(file);
+        window->grab().save(
+            QDir(ShotFolder()).filePath(QString::fromStdString(name) + QStringLiteral(".png")));
         const auto faults = LayoutFaults(form, *window);
-        EXPECT_TRUE(faults.empty()) << form.Name() << ":" << Joined(faults);
-        const auto clipped = ClippedCaptions(form, *window);
-        if (!clipped.empty())
-            std::cout << "[ note ] " << form.Name() << " captions cut off:" << Joined(clipped)
-                      << "\n";
+        EXPECT_TRUE(faults.empty()) << name << ":" << Joined(faults);
+    }
+
+    // Every page of every tab control, an inner one with its outer tab turned to it first.
+    void PhotographPages(platform::Form& form) {
+        const std::string name = form.Name();
+        for (Control* c : form.Controls()) {
+            if (c->Type() != ControlType::Tab || !c->Visible()) continue;
+            auto* tab = static_cast<platform::Tab*>(c);
+            for (int page = 0; page < tab->Tabs(); ++page) {
+                if (!tab->TabVisible(page) || !tab->TabEnabled(page)) continue;
+                Dispatch([&form, tab, page] {
+                    int outerPage = 0;
+                    if (platform::Tab* outer = OuterTab(form, *tab, outerPage))
+                        outer->SetTab(outerPage);
+                    tab->SetTab(page);
+                });
+                if (platform::Forms::Existing(name) != &form || !form.Visible()) return;
+                Photograph(form, name + "-" + tab->Key() + "-" + std::to_string(page));
+            }
+        }
+    }
+
+    void ShowAndPhotograph(const std::string& name, const std::string& shot) {
+        Dispatch([&] { platform::Forms::Get(name).Show(); });
+        ASSERT_FALSE(platform::ProgramHasEnded()) << "showing " << name << " ended the program";
+        platform::Form* form = platform::Forms::Existing(name);
+        if (form && form->Visible()) Photograph(*form, shot);
     }
 
     QTimer modalWatch_;
 };
 
-TEST_F(ScreensTest, EveryScreenIsDrawnLegiblyFromItsRegistry) {
+TEST_F(ScreensTest, EveryScreenAndEveryPageIsDrawnWholeOnThisScreen) {
     Dispatch([] { SubMain(); });
     ASSERT_FALSE(platform::ProgramHasEnded());
     modalWatch_.start();
@@ -164,50 +231,88 @@ TEST_F(ScreensTest, EveryScreenIsDrawnLegiblyFromItsRegistry) {
         ASSERT_FALSE(platform::ProgramHasEnded()) << "showing " << name << " ended the program";
         platform::Form* form = platform::Forms::Existing(name);
         if (!form || !form->Visible()) continue;  // its own logic sent it away at once
-        Photograph(*form);
-        // Every tab page too: a page's controls share its space with no other page's.
-        std::vector<std::pair<std::string, int>> pages;
-        for (Control* c : form->Controls()) {
-            if (c->Type() != ControlType::Tab || !c->Visible()) continue;
-            auto* tab = static_cast<platform::Tab*>(c);
-            for (int page = 0; page < tab->Tabs(); ++page)
-                if (tab->TabVisible(page) && tab->TabEnabled(page) && page != tab->CurrentTab())
-                    pages.emplace_back(tab->Key(), page);
-        }
-        for (const auto& [key, page] : pages) {
-            Dispatch([form, key = key, page = page] {
-                if (auto* t = static_cast<platform::Tab*>(form->Find(key))) t->SetTab(page);
-            });
-            if (platform::Forms::Existing(name) != form || !form->Visible()) break;
-            backend.FlushAll();
-            QApplication::processEvents();
-            platform::qt::FormWindow* window = backend.WindowOf(*form);
-            FullShot(*window).save(QDir(QStringLiteral(SCREENSHOT_DIR))
-                                       .filePath(QString::fromStdString(name + "-" + key + "-" +
-                                                                        std::to_string(page)) +
-                                                 ".png"));
-            const auto faults = LayoutFaults(*form, *window);
-            EXPECT_TRUE(faults.empty())
-                << name << " page " << key << " " << page << ":" << Joined(faults);
-        }
-        if (platform::Forms::Existing(name) != form) continue;
+        Photograph(*form, name);
+        PhotographPages(*form);
         if (platform::Forms::Existing(name) == form && form->Visible())
             Dispatch([form] { form->Hide(); });
     }
 }
 
-namespace {
+TEST_F(ScreensTest, MainMenuInEachOfItsThreeStates) {
+    // No customer yet: only the customer routine is open, after the message that says so.
+    ShowAndPhotograph("frmStartup", "frmStartup-no-customer");
+    EXPECT_NE(std::find(boxes.Seen().begin(), boxes.Seen().end(),
+                        "[Norvax Construction Scheduler] Create your 1st Customer Record Now"),
+              boxes.Seen().end());
+    Dispatch([] { platform::Forms::Get("frmStartup").Unload(); });
 
-QTabBar* StripOf(QWidget* tabControl) {
-    return tabControl->findChild<QTabBar*>(QString(), Qt::FindDirectChildrenOnly);
+    // Customers but no project: the project routines are closed.
+    folder.Write("CustomerData.txt", std::string(328, ' '));
+    ShowAndPhotograph("frmStartup", "frmStartup-no-project");
+    auto* menu = platform::Forms::Existing("frmStartup");
+    ASSERT_NE(menu, nullptr);
+    EXPECT_FALSE(menu->Find("optProgramRoutine(9)")->Enabled());
+    Dispatch([] { platform::Forms::Get("frmStartup").Unload(); });
+
+    // A project on file: every routine is open.
+    folder.MakeDirs("ConstructionProjects");
+    folder.Write("ConstructionProjects/Pj166-1.txt", "\r\n");
+    ShowAndPhotograph("frmStartup", "frmStartup-with-projects");
+    menu = platform::Forms::Existing("frmStartup");
+    ASSERT_NE(menu, nullptr);
+    EXPECT_TRUE(menu->Find("optProgramRoutine(9)")->Enabled());
 }
 
-}  // namespace
+TEST_F(ScreensTest, MessageBoxesOfEachKindShowTheirWholeTitleAndText) {
+    struct Kind {
+        std::string name, text, title;
+        int buttons;
+        QMessageBox::StandardButton preferred;
+    };
+    const std::vector<Kind> kinds = {
+        {"box-information", "The Milestone Characteristics have been Created", "",
+         platform::vbInformation, QMessageBox::Ok},
+        {"box-exclamation", "You Have Not Created All Required Files", "",
+         platform::vbExclamation, QMessageBox::Ok},
+        {"box-critical", "Path/File access error", "", platform::vbCritical, QMessageBox::Ok},
+        {"box-ok-cancel", "This will Clear All Milestones", "Clear Milestones",
+         platform::vbOKCancel + platform::vbQuestion + platform::vbDefaultButton2,
+         QMessageBox::Cancel},
+        {"box-yes-no", "Do you want to reset (clear)all Business Data?", "Reset Business Data",
+         platform::vbYesNo + platform::vbQuestion + platform::vbDefaultButton2, QMessageBox::No},
+        {"box-yes-no-cancel", "Review your Selections\r\nIf correct, press YES",
+         "Verify Attributes", platform::vbYesNoCancel + platform::vbQuestion, QMessageBox::Yes},
+    };
+    for (const Kind& kind : kinds) {
+        SCOPED_TRACE(kind.name);
+        std::vector<std::string> faults;
+        boxes.OnEachBox([&](QMessageBox& box) {
+            box.grab().save(QDir(ShotFolder()).filePath(QString::fromStdString(kind.name) +
+                                                        QStringLiteral(".png")));
+            QFont titleFont = QApplication::font();
+            titleFont.setBold(true);
+            titleFont.setPixelSize(std::max(titleFont.pixelSize(), 16));
+            if (box.width() < QFontMetrics(titleFont).horizontalAdvance(box.windowTitle()))
+                faults.push_back("the title is cut short");
+            if (box.defaultButton() != box.button(kind.preferred))
+                faults.push_back("Enter answers another button");
+            for (QLabel* label : box.findChildren<QLabel*>())
+                if (label->isVisible() && label->sizeHint().width() > label->width() + 2)
+                    faults.push_back("text cut off: " + platform::qt::ToAnsi(label->text()));
+            if (box.width() > QApplication::primaryScreen()->availableGeometry().width())
+                faults.push_back("wider than the screen");
+        });
+        Dispatch([&] { platform::MsgBox(kind.text, kind.buttons, kind.title); });
+        boxes.OnEachBox(nullptr);
+        EXPECT_TRUE(faults.empty()) << Joined(faults);
+    }
+}
 
 TEST_F(ScreensTest, FirstRunGoesFromTheWelcomePageThroughSetUpToTheMainMenu) {
     Dispatch([] { SubMain(); });
     platform::Form* welcome = platform::Forms::Existing("frmWelcome");
     ASSERT_TRUE(welcome && welcome->Visible());
+    Photograph(*welcome, "frmWelcome");
     auto& setup = static_cast<frmSetup&>(platform::Forms::Get("frmSetup"));
     auto click = [&](platform::Form& form, Control& control) {
         QWidget* w = WindowOf(form).WidgetOf(control);
@@ -259,6 +364,84 @@ TEST_F(ScreensTest, FirstRunGoesFromTheWelcomePageThroughSetUpToTheMainMenu) {
     EXPECT_NE(folder.Read("MyBusinessData.txt").find("\"503-555-0142\""), std::string::npos);
     EXPECT_EQ(folder.Read("Assignto.txt"), "\"Framing Crew\"\r\n");
     EXPECT_EQ(folder.Read("Characteristics.txt").rfind("\"Excavation\",", 0), 0u);
-    FullShot(WindowOf(*menu))
-        .save(QDir(QStringLiteral(SCREENSHOT_DIR)).filePath("first-run-menu.png"));
+    Photograph(*menu, "first-run-menu");
+}
+
+class KeyboardTest : public QtFixture {
+  protected:
+    KeyboardTest() { RegisterScreens(); }
+
+    static QWidget* Focus() { return QApplication::focusWidget(); }
+
+    // Tab until the control has the keyboard; every stop on the way is a visible control.
+    bool TabTo(platform::Form& form, Control& control, int most = 40) {
+        QWidget* target = WindowOf(form).ViewOf(control)->FocusTarget();
+        for (int i = 0; i < most && Focus() != target; ++i) {
+            QTest::keyClick(Focus(), Qt::Key_Tab);
+            Settle();
+            EXPECT_TRUE(Focus() && Focus()->isVisible()) << "Tab stopped on nothing visible";
+            EXPECT_FALSE(qobject_cast<QScrollArea*>(Focus())) << "Tab stopped on the scroll area";
+        }
+        return Focus() == target;
+    }
+
+    void Key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(Focus(), static_cast<Qt::Key>(key), modifiers);
+        Settle();
+    }
+};
+
+TEST_F(KeyboardTest, SetUpIsWalkedThroughWithTheKeyboardAlone) {
+    Dispatch([] { SubMain(); });
+    platform::Form* welcome = platform::Forms::Existing("frmWelcome");
+    ASSERT_TRUE(welcome && welcome->Visible());
+    auto& setup = static_cast<frmSetup&>(platform::Forms::Get("frmSetup"));
+    // Enter answers the welcome page's default button.
+    WindowOf(*welcome).activateWindow();
+    QTest::keyClick(&WindowOf(*welcome), Qt::Key_Return);
+    Settle();
+    ASSERT_TRUE(setup.Visible());
+    ASSERT_TRUE(WaitFor([&] { return Focus() == WindowOf(setup).WidgetOf(setup.txtBusiness[0]); }));
+
+    QTest::keyClicks(Focus(), "Hammer & Sons Construction");
+    Key(Qt::Key_Tab);
+    EXPECT_EQ(Focus(), WindowOf(setup).WidgetOf(setup.txtBusiness[1]));
+    QTest::keyClicks(Focus(), "12 Elm Street");
+
+    // Ctrl+Tab turns the pages; the Assignments page puts the keyboard in its box.
+    for (int page = 0; page < frmSetup::kAssignmentsTab; ++page) Key(Qt::Key_Tab, Qt::ControlModifier);
+    ASSERT_EQ(setup.tabSetup.CurrentTab(), frmSetup::kAssignmentsTab);
+    ASSERT_TRUE(WaitFor([&] { return Focus() == WindowOf(setup).ViewOf(setup.cboAssignments)->FocusTarget(); }));
+    QTest::keyClicks(Focus(), "Framing Crew");
+    ASSERT_TRUE(TabTo(setup, setup.cmdSave));
+    Key(Qt::Key_Return);
+    EXPECT_EQ(folder.Read("Assignto.txt"), "\"Framing Crew\"\r\n");
+
+    // Ctrl+PgDn to the milestones; Enter on Add with an empty box brings a message, after
+    // which the keyboard is back on the button.
+    Key(Qt::Key_PageDown, Qt::ControlModifier);
+    ASSERT_EQ(setup.tabSetup.CurrentTab(), frmSetup::kMilestonesTab);
+    ASSERT_TRUE(TabTo(setup, setup.cmdAddMilestone));
+    Key(Qt::Key_Return);
+    EXPECT_EQ(boxes.Seen().back(),
+              "[Norvax Construction Scheduler] Enter a New Milestone in the Box to the Left");
+    EXPECT_EQ(Focus(), WindowOf(setup).WidgetOf(setup.cmdAddMilestone));
+    ASSERT_TRUE(TabTo(setup, setup.cboMilestones));
+    QTest::keyClicks(Focus(), "Excavation");
+    ASSERT_TRUE(TabTo(setup, setup.cmdAddMilestone));
+    Key(Qt::Key_Return);
+
+    // Back a page with Ctrl+Shift+Tab, and Ctrl+PgUp, then save and return to the menu.
+    Key(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(setup.tabSetup.CurrentTab(), frmSetup::kAssignmentsTab);
+    Key(Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(setup.tabSetup.CurrentTab(), frmSetup::kOperationsTab);
+    ASSERT_TRUE(TabTo(setup, setup.cmdQuit));
+    Key(Qt::Key_Return);
+    EXPECT_FALSE(setup.Visible());
+    platform::Form* menu = platform::Forms::Existing("frmStartup");
+    ASSERT_TRUE(menu && menu->Visible());
+    EXPECT_NE(folder.Read("MyBusinessData.txt").find("\"Hammer & Sons Construction\",\"12 Elm Street\""),
+              std::string::npos);
+    EXPECT_EQ(folder.Read("Characteristics.txt").rfind("\"Excavation\",", 0), 0u);
 }

@@ -35,6 +35,11 @@ void ControlView::SetWidget(QWidget* widget) {
     widget_ = widget;
     widget->setObjectName(QString::fromStdString(control_.Key()));
     window_.Watch(widget, control_);
+    // Pictures and labels that answer a click show it under the mouse.
+    const bool picture =
+        control_.Type() == ControlType::Image || control_.Type() == ControlType::Label;
+    if (picture && control_.Parent().HasHandler(control_.Name() + ".Click"))
+        widget->setCursor(Qt::PointingHandCursor);
 }
 
 QWidget* ControlView::Canvas() const {
@@ -54,14 +59,21 @@ void ControlView::SyncCommon() {
     Control& c = control_;
     QWidget* w = widget_;
     QWidget* parent = window_.ParentFor(c);
-    if (w->parentWidget() != parent) w->setParent(parent);
+    if (w->parentWidget() != parent) {
+        w->setParent(parent);
+        window_.MarkFocusOrderDirty();
+    }
     const Scale& scale = window_.CurrentScale();
-    w->setGeometry(scale.X(c.Left()), scale.Y(c.Top()), std::max(1, scale.X(c.Width())),
-                   std::max(1, scale.Y(c.Height())));
+    // From the corners, so that controls that touch in twips touch on the screen too.
+    const int left = scale.X(c.Left()), top = scale.Y(c.Top());
+    w->setGeometry(left, top, std::max(1, scale.X(c.Left() + c.Width()) - left),
+                   std::max(1, scale.Y(c.Top() + c.Height()) - top));
     w->setEnabled(c.Enabled());
     w->setToolTip(FromAnsi(c.ToolTipText()));
+    // In points, not whole pixels, so that text shrinks and grows exactly as its box does.
     QFont font = QApplication::font();
-    font.setPixelSize(scale.FontPixels(c.FontSize() > 0 ? c.FontSize() : kDefaultFontSize));
+    const double points = c.FontSize() > 0 ? c.FontSize() : kDefaultFontSize;
+    font.setPointSizeF(scale.FontPixels(points) * 72.0 / w->logicalDpiY());
     font.setBold(c.FontBold());
     w->setFont(font);
     QPalette pal = parent->palette();
@@ -82,6 +94,12 @@ void ControlView::SyncCommon() {
     }
     w->setPalette(pal);
     w->setVisible(c.Visible());
+}
+
+QWidget* ControlView::FocusTarget() const {
+    if (!widget_) return nullptr;
+    QWidget* target = widget_->focusProxy() ? widget_->focusProxy() : widget_;
+    return target->focusPolicy() & Qt::TabFocus ? target : nullptr;
 }
 
 bool ControlView::TypeKey(int ascii) {

@@ -46,6 +46,8 @@ class ControlView {
     virtual void Detach() {}
     virtual void Stop() {}
     virtual QAction* Action() const { return nullptr; }
+    // The widget Tab stops on for this control, or null when it takes no focus.
+    virtual QWidget* FocusTarget() const;
 
   protected:
     // The control's own properties, beyond the common ones.

@@ -23,6 +23,7 @@
 #include "platform/qt/Keys.h"
 #include "platform/qt/MenuView.h"
 #include "platform/qt/QtBackend.h"
+#include "platform/qt/TabView.h"
 
 namespace platform::qt {
 namespace {
@@ -167,7 +168,33 @@ void FormWindow::Flush() {
         formDirty_ = false;
         UpdateWindowGeometry();
     }
+    if (focusOrderDirty_) {
+        focusOrderDirty_ = false;
+        OrderFocus();
+    }
     --syncing_;
+}
+
+void FormWindow::OrderFocus() {
+    std::unordered_map<QWidget*, std::vector<ControlView*>> inside;
+    for (auto& view : views_)
+        if (QWidget* w = view->Widget()) inside[w->parentWidget()].push_back(view.get());
+    std::vector<QWidget*> order;
+    std::function<void(QWidget*)> visit = [&](QWidget* place) {
+        auto it = inside.find(place);
+        if (it == inside.end()) return;
+        for (ControlView* view : it->second) {
+            if (QWidget* target = view->FocusTarget()) order.push_back(target);
+            if (!view->IsContainer()) continue;
+            // A frame holds its controls; a tab control holds them on its pages.
+            visit(view->Widget());
+            for (QWidget* page :
+                 view->Widget()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+                visit(page);
+        }
+    };
+    visit(canvas_);
+    for (size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
 void FormWindow::UpdateWindowGeometry() {
@@ -187,30 +214,69 @@ void FormWindow::UpdateWindowGeometry() {
     const int clientWidth = std::max(0, form_->Width() - kBorderWidth);
     const int clientHeight =
         std::max(0, form_->Height() - kCaptionHeight - (hasMenu ? kMenuHeight : 0));
-    const QSize canvas(scale_.X(std::max(clientWidth, right)),
-                       scale_.Y(std::max(clientHeight, bottom)));
+    const QSize twips(std::max(clientWidth, right), std::max(clientHeight, bottom));
     setWindowTitle(FromAnsi(form_->Caption()));
-    if (canvas == canvas_->size() && canvasSized_) return;
-    canvasSized_ = true;
-    canvas_->setFixedSize(canvas);
+    canvas_->setFixedSize(scale_.X(twips.width()), scale_.Y(twips.height()));
+    if (twips == formTwips_) return;
+    formTwips_ = twips;
     FitContents();
 }
 
 void FormWindow::FitContents() {
-    QSize wanted = NaturalSize();
-    if (const QScreen* screen = QApplication::primaryScreen()) {
-        const QSize room = screen->availableGeometry().size() - QSize(16, 48);
-        wanted = wanted.boundedTo(room);
+    const QSize natural = NaturalSize();
+    const int menu = natural.height() - NaturalCanvas().height();
+    QSize wanted = natural;
+    const QScreen* shownOn = isVisible() && screen() ? screen() : QApplication::primaryScreen();
+    if (shownOn) {
+        // Room for the window manager's frame and title bar too.
+        const QSize room = shownOn->availableGeometry().size() - QSize(16, 48);
+        const double shrink = std::min({1.0, double(room.width()) / natural.width(),
+                                        double(room.height() - menu) / (natural.height() - menu)});
+        wanted =
+            QSize(int(natural.width() * shrink), int((natural.height() - menu) * shrink) + menu);
     }
     resize(wanted);
+    ScaleToWindow();
+}
+
+QSize FormWindow::NaturalCanvas() const {
+    const Scale usual;
+    return QSize(usual.X(formTwips_.width()), usual.Y(formTwips_.height()));
 }
 
 QSize FormWindow::NaturalSize() const {
     // Before the window is first shown its menu bar is not yet visible to it; what counts is
-    // whether the bar has been hidden. The scroll area's frame needs its room too.
-    const int frame = 2 * scroll_->frameWidth();
-    return canvas_->size() +
-           QSize(frame, frame + (menuBar_->isHidden() ? 0 : menuBar_->sizeHint().height()));
+    // whether the bar has been hidden.
+    return NaturalCanvas() + QSize(0, menuBar_->isHidden() ? 0 : menuBar_->sizeHint().height());
+}
+
+void FormWindow::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    ScaleToWindow();
+}
+
+void FormWindow::ScaleToWindow() {
+    if (detached_ || formTwips_.isEmpty()) return;
+    const int menu = menuBar_->isHidden() ? 0 : menuBar_->sizeHint().height();
+    const QSize room(width(), height() - menu);
+    const double pixelRatio = devicePixelRatioF();
+    const double legible = kLegibleTextPixels / (kDefaultTextPixels * pixelRatio);
+    auto fit = [legible](int pixels, int twips) {
+        return std::clamp(pixels * 15.0 / twips, std::min(legible, kBaseScale), kLargestScale);
+    };
+    Scale wanted;
+    wanted.x = fit(room.width(), formTwips_.width());
+    wanted.y = fit(room.height(), formTwips_.height());
+    if (wanted == scale_) return;
+    scale_ = wanted;
+    formDirty_ = true;
+    for (auto& view : views_) dirty_.insert(&view->Model());
+    if (!syncing_) {
+        Flush();
+    } else if (!flushPosted_) {
+        flushPosted_ = true;
+        QTimer::singleShot(0, this, [this] { Flush(); });
+    }
 }
 
 void FormWindow::StopTimers() {
@@ -270,7 +336,11 @@ bool FormWindow::HandleKey(Control& control, QKeyEvent* event) {
     const bool multiLine =
         control.Type() == ControlType::TextBox && static_cast<TextBox&>(control).MultiLine();
     if ((ascii == 13 && !multiLine) || ascii == 27) {
-        if (Control* button = DefaultButton(ascii == 27)) {
+        // Enter on a button presses that button; elsewhere it presses the default one.
+        Control* button = ascii == 13 && control.Type() == ControlType::CommandButton
+                              ? &control
+                              : DefaultButton(ascii == 27);
+        if (button) {
             Act(button, [button] { static_cast<CommandButton*>(button)->Click(); });
             return true;
         }
@@ -382,6 +452,7 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     Control& control = *it->second;
     switch (event->type()) {
         case QEvent::KeyPress:
+            if (TurnPage(static_cast<QKeyEvent*>(event))) return true;
             return HandleKey(control, static_cast<QKeyEvent*>(event));
         case QEvent::MouseButtonPress:
             HandleDrag(control, watched, event);
@@ -422,7 +493,38 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     }
 }
 
+bool FormWindow::TurnPage(QKeyEvent* event) {
+    if (!(event->modifiers() & Qt::ControlModifier) || detached_) return false;
+    int direction = 0;
+    switch (event->key()) {
+        case Qt::Key_Tab:
+        case Qt::Key_PageDown:
+            direction = event->modifiers() & Qt::ShiftModifier ? -1 : 1;
+            break;
+        case Qt::Key_Backtab:
+        case Qt::Key_PageUp:
+            direction = -1;
+            break;
+        default:
+            return false;
+    }
+    // The innermost tab control around the focus, or else the form's first one on show.
+    TabView* pages = nullptr;
+    for (QWidget* w = QApplication::focusWidget(); w && w != this && !pages; w = w->parentWidget())
+        if (auto it = watched_.find(w); it != watched_.end())
+            pages = dynamic_cast<TabView*>(ViewOf(*it->second));
+    for (auto& view : views_) {
+        if (pages) break;
+        if (auto* tab = dynamic_cast<TabView*>(view.get()); tab && tab->Widget()->isVisible())
+            pages = tab;
+    }
+    if (!pages) return false;
+    pages->Step(direction);
+    return true;
+}
+
 void FormWindow::keyPressEvent(QKeyEvent* event) {
+    if (TurnPage(event)) return;
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if ((enter || event->key() == Qt::Key_Escape) && !detached_) {
         if (Control* button = DefaultButton(!enter)) {

@@ -43,9 +43,10 @@ class FormWindow : public QWidget {
     QAction* ActionOf(const Control& menu) const;
     ControlView* ViewOf(const Control& control) const;
     QWidget* Canvas() const { return canvas_; }
-    // The whole form, menu bar included, however small the screen.
+    // The whole form at its usual scale, menu bar included, however small the screen.
     QSize NaturalSize() const;
-    // Sizes the window to hold its whole canvas, as far as the screen allows.
+    QSize NaturalCanvas() const;
+    // Sizes the window to its form, shrunk as a whole where the screen is too small.
     void FitContents();
     QMenuBar* Bar() const { return menuBar_; }
     void FocusControl(Control& control);
@@ -64,17 +65,27 @@ class FormWindow : public QWidget {
     QWidget* ParentFor(const Control& control) const;
     // The form's size or its menu bar changed.
     void MarkFormDirty() { formDirty_ = true; }
+    // A control moved into another container: Tab's order is laid anew.
+    void MarkFocusOrderDirty() { focusOrderDirty_ = true; }
 
   protected:
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void Build();
     void UpdateWindowGeometry();
+    // Tab goes through the controls in the form's order, each container's controls where the
+    // container stands, so a page's fields come before the buttons under the tab control.
+    void OrderFocus();
+    // The scale at which the form fills the room the window gives it.
+    void ScaleToWindow();
     void MarkDirty(Control& control);
     bool HandleKey(Control& control, QKeyEvent* event);
+    // Ctrl+Tab and Ctrl+PgDn turn a tab control to its next page, with Shift or PgUp back.
+    bool TurnPage(QKeyEvent* event);
     bool HandleMouse(Control& control, QObject* watched, QMouseEvent* event);
     bool HandleDrag(Control& control, QObject* watched, QEvent* event);
     Control* DefaultButton(bool cancel) const;
@@ -93,7 +104,8 @@ class FormWindow : public QWidget {
     std::unordered_map<const QObject*, Control*> watched_;
     std::unordered_set<Control*> dirty_;
     bool formDirty_ = true;
-    bool canvasSized_ = false;
+    bool focusOrderDirty_ = true;
+    QSize formTwips_;  // the drawing surface in twips
     std::string dragSource_;
     QPoint dragStart_;
 };

@@ -6,6 +6,7 @@
 
 #include "platform/Files.h"
 #include "platform/qt/FormWindow.h"
+#include "platform/qt/ProgramPictures.h"
 
 namespace platform::qt {
 
@@ -47,6 +48,10 @@ ImageView::ImageView(Control& control, FormWindow& window) : ControlView(control
     SetWidget(box_);
 }
 
+bool ImageView::ShowsPicture() const {
+    return !box_->Picture().isNull();
+}
+
 void ImageView::SyncOwn() {
     auto& model = static_cast<Image&>(control_);
     QPixmap picture = box_->Picture();
@@ -54,14 +59,19 @@ void ImageView::SyncOwn() {
         loaded_ = true;
         shown_ = model.Picture();
         picture = QPixmap();
+        role_ = IsRolePicture(shown_) ? RoleIcon(shown_) : QIcon();
         const QString path = QString::fromStdString(shown_);
-        if (!path.isEmpty()) {
+        if (!path.isEmpty() && role_.isNull()) {
             if (QFileInfo::exists(path))
                 picture.load(path);
             else
                 picture.load(QString::fromStdString(ResolvePath(shown_).string()));
         }
     }
+    // A role's picture fills its box at the box's own size, however the window is scaled.
+    if (!role_.isNull())
+        return box_->SetPicture(role_.pixmap(box_->size(), box_->devicePixelRatioF()), true,
+                                window_.CurrentScale().Text());
     box_->SetPicture(picture, model.Stretch(), window_.CurrentScale().Text());
 }
 

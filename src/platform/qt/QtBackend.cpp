@@ -6,10 +6,13 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QEventLoop>
+#include <QGridLayout>
 #include <QLockFile>
 #include <QMessageBox>
+#include <QProcess>
 #include <QPushButton>
 #include <QScreen>
+#include <QStandardPaths>
 #include <QUrl>
 #include <cmath>
 
@@ -17,6 +20,7 @@
 #include "platform/Form.h"
 #include "platform/qt/Ansi.h"
 #include "platform/qt/FormWindow.h"
+#include "platform/qt/ProgramPictures.h"
 
 namespace platform::qt {
 namespace {
@@ -31,8 +35,24 @@ QFont ProgramFont() {
     font.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("Arimo"),
                       QStringLiteral("Arial"), QStringLiteral("DejaVu Sans Condensed"),
                       QStringLiteral("DejaVu Sans")});
-    font.setPixelSize(static_cast<int>(std::lround(8.25 * 96.0 / 72.0 * kBaseScale)));
+    font.setPixelSize(static_cast<int>(std::lround(kDefaultTextPixels * kBaseScale)));
     return font;
+}
+
+// Room the window manager takes beside a title: its icon and its buttons.
+constexpr int kTitleBarExtras = 160;
+
+// The window manager writes the title in its own, larger font and cuts it short when the box
+// is narrower: the box is made wide enough for the whole title.
+void KeepTitleWhole(QMessageBox& box) {
+    QFont titleFont = QApplication::font();
+    titleFont.setBold(true);
+    titleFont.setPixelSize(std::max(titleFont.pixelSize(), 16));
+    const int wanted =
+        QFontMetrics(titleFont).horizontalAdvance(box.windowTitle()) + kTitleBarExtras;
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout()))
+        grid->addItem(new QSpacerItem(wanted, 0, QSizePolicy::Minimum, QSizePolicy::Minimum),
+                      grid->rowCount(), 0, 1, grid->columnCount());
 }
 
 }  // namespace
@@ -41,6 +61,8 @@ QtBackend::QtBackend() {
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setFont(ProgramFont());
     QApplication::setQuitOnLastWindowClosed(false);
+    ChooseIconTheme();
+    QApplication::setWindowIcon(ProgramIcon());
 }
 
 QtBackend::~QtBackend() {
@@ -106,7 +128,15 @@ int QtBackend::MsgBox(const std::string& prompt, int buttons, const std::string&
         box.setEscapeButton(made[0]);
     else if (kind == vbOKCancel || kind == vbYesNoCancel)
         box.setEscapeButton(made.back());
+    KeepTitleWhole(box);
+    // The box takes the keyboard; the control that had it gets it back, whatever window the
+    // window manager activates next.
+    const QPointer<QWidget> focused = QApplication::focusWidget();
     box.exec();
+    if (focused && focused->isVisible()) {
+        focused->activateWindow();
+        focused->setFocus(Qt::ActiveWindowFocusReason);
+    }
     QAbstractButton* clicked = box.clickedButton();
     for (size_t i = 0; i < made.size(); ++i)
         if (made[i] == clicked) return choices[i].answer;
@@ -226,7 +256,35 @@ bool QtBackend::PrevInstance() {
 }
 
 void QtBackend::OpenUrl(const std::string& url) {
-    QDesktopServices::openUrl(QUrl::fromUserInput(FromAnsi(url)));
+    // Where no browser can be started the user is told the address, to open it by hand.
+    // The handler answers later, perhaps after this backend is gone: the box goes to the one
+    // in use then.
+    auto tellUser = [url] {
+        platform::MsgBox("No web browser could be started. The address is:\r\n" + url,
+                         vbInformation);
+    };
+    const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
+    if (opener.isEmpty()) {
+        if (!QDesktopServices::openUrl(QUrl::fromUserInput(FromAnsi(url)))) tellUser();
+        return;
+    }
+    // The desktop's own handler; it says by its exit status whether a browser took the address.
+    auto* process = new QProcess(QCoreApplication::instance());
+    process->setProgram(opener);
+    process->setArguments({FromAnsi(url)});
+    process->setStandardInputFile(QProcess::nullDevice());
+    QObject::connect(process, &QProcess::finished, process,
+                     [process, tellUser](int status, QProcess::ExitStatus how) {
+                         process->deleteLater();
+                         if (how != QProcess::NormalExit || status != 0) tellUser();
+                     });
+    QObject::connect(process, &QProcess::errorOccurred, process,
+                     [process, tellUser](QProcess::ProcessError error) {
+                         if (error != QProcess::FailedToStart) return;
+                         process->deleteLater();
+                         tellUser();
+                     });
+    process->start();
 }
 
 void QtBackend::Quit() {

@@ -1,5 +1,6 @@
 #include "platform/qt/TabView.h"
 
+#include <QApplication>
 #include <QFrame>
 #include <QTabBar>
 
@@ -61,6 +62,10 @@ QWidget* TabView::PlaceFor(const Control& child) {
     return host_->Page(static_cast<size_t>(std::max(0, child.TabPage())));
 }
 
+QWidget* TabView::FocusTarget() const {
+    return host_->bar;
+}
+
 void TabView::Step(int direction) {
     Tab* tab = &Model();
     const int count = tab->Tabs();
@@ -68,6 +73,10 @@ void TabView::Step(int direction) {
         const int index = ((tab->CurrentTab() + direction * step) % count + count) % count;
         if (!tab->TabEnabled(index) || !tab->TabVisible(index)) continue;
         window_.Act(tab, [tab, index] { tab->SetTab(index); });
+        // Unless the page's own logic put the focus on one of its controls, the strip has it.
+        QWidget* now = QApplication::focusWidget();
+        if (!window_.Detached() && (!now || !now->isVisible() || !host_->isAncestorOf(now)))
+            host_->bar->setFocus(Qt::TabFocusReason);
         return;
     }
 }

@@ -15,6 +15,7 @@ class TabView : public ControlView {
     bool IsContainer() const override { return true; }
     // Ctrl+Tab and Ctrl+PgDn: the next enabled, visible tab; backwards with -1.
     void Step(int direction);
+    QWidget* FocusTarget() const override;
 
   protected:
     void SyncOwn() override;

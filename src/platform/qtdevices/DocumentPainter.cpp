@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "platform/headless/HeadlessPrinter.h"
+#include "platform/qtdevices/MetricFonts.h"
 
 namespace platform {
 
@@ -48,6 +49,7 @@ QColor ToQColor(std::int32_t color) {
 }
 
 QFont ToQFont(const PrintFont& font) {
+    MapWindowsFonts();
     QFont qfont(QString::fromStdString(font.name));
     qfont.setStyleHint(QFont::SansSerif);
     qfont.setPointSizeF(font.size);

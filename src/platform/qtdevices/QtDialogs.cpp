@@ -9,6 +9,7 @@
 #include <QStringList>
 
 #include "platform/qtdevices/DocumentPainter.h"
+#include "platform/qtdevices/MetricFonts.h"
 #include "platform/qtdevices/QtPrinterDevice.h"
 
 namespace platform {
@@ -51,11 +52,14 @@ FontAnswer QtDialogs::ChooseFont(const std::string& current, double size, bool p
     PrintFont start;
     start.name = current;
     start.size = size > 0 ? size : 10;
+    // The dialog lists installed families: it opens on the one that shows the current name.
+    QFont shown = ToQFont(start);
+    shown.setFamily(InstalledFamily(current));
     bool ok = false;
-    const QFont chosen = QFontDialog::getFont(&ok, ToQFont(start), QApplication::activeWindow());
+    const QFont chosen = QFontDialog::getFont(&ok, shown, QApplication::activeWindow());
     FontAnswer answer;
     answer.accepted = ok;
-    answer.name = ok ? chosen.family().toStdString() : current;
+    answer.name = ok ? KeptFontName(chosen.family()) : current;
     answer.size = ok ? chosen.pointSizeF() : size;
     answer.bold = ok && chosen.bold();
     answer.italic = ok && chosen.italic();
