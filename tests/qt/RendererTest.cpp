@@ -20,6 +20,8 @@
 #include <QTest>
 #include <QToolButton>
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
 
 #include "DemoForm.h"
 #include "QtFixture.h"
@@ -387,4 +389,34 @@ TEST_F(RendererTest, OnlyTheFirstInstanceOfAFolderHoldsTheClaim) {
     platform::qt::QtBackend second;
     EXPECT_TRUE(second.PrevInstance());
     platform::SetBackend(&backend);
+}
+
+// The desktop's URL handler opens addresses; where it finds no browser the user is told the
+// address instead of seeing nothing.
+TEST_F(RendererTest, AnAddressNoBrowserTakesIsShownToTheUser) {
+    const std::filesystem::path bin = folder.Path() / "bin";
+    std::filesystem::create_directories(bin);
+    const std::string opened = (folder.Path() / "opened.txt").string();
+    auto handler = [&](const std::string& body) {
+        std::ofstream((bin / "xdg-open").string()) << "#!/bin/sh\n" << body << "\n";
+        std::filesystem::permissions(bin / "xdg-open", std::filesystem::perms::owner_all);
+    };
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", QByteArray::fromStdString(bin.string()) + ":" + path);
+
+    handler("echo \"$1\" > " + opened);
+    Dispatch([&] { backend.OpenUrl("https://www.norvax.com/"); });
+    EXPECT_TRUE(WaitFor([&] { return std::filesystem::exists(opened); }));
+    QTest::qWait(50);
+    EXPECT_TRUE(boxes.Seen().empty());
+    EXPECT_EQ(folder.Read("opened.txt"), "https://www.norvax.com/\n");
+
+    handler("exit 3");  // xdg-open: no browser found
+    Dispatch([&] { backend.OpenUrl("https://www.norvax.com/construction/manual.html"); });
+    EXPECT_TRUE(WaitFor([&] { return !boxes.Seen().empty(); }));
+    qputenv("PATH", path);
+    ASSERT_FALSE(boxes.Seen().empty());
+    EXPECT_EQ(boxes.Seen().back(),
+              "[Norvax Construction Scheduler] No web browser could be started. The address "
+              "is:\nhttps://www.norvax.com/construction/manual.html");
 }

@@ -123,8 +123,8 @@ std::vector<std::string> LayoutFaults(platform::Form& form, platform::qt::FormWi
     if (window.width() > room.width() || window.height() > room.height())
         faults.push_back("the window is larger than the screen");
     if (auto* scroll = window.findChild<QScrollArea*>();
-        scroll && (scroll->horizontalScrollBar()->isVisible() ||
-                   scroll->verticalScrollBar()->isVisible()))
+        scroll &&
+        (scroll->horizontalScrollBar()->isVisible() || scroll->verticalScrollBar()->isVisible()))
         faults.push_back("the form scrolls");
     return faults;
 }
@@ -272,8 +272,8 @@ TEST_F(ScreensTest, MessageBoxesOfEachKindShowTheirWholeTitleAndText) {
     const std::vector<Kind> kinds = {
         {"box-information", "The Milestone Characteristics have been Created", "",
          platform::vbInformation, QMessageBox::Ok},
-        {"box-exclamation", "You Have Not Created All Required Files", "",
-         platform::vbExclamation, QMessageBox::Ok},
+        {"box-exclamation", "You Have Not Created All Required Files", "", platform::vbExclamation,
+         QMessageBox::Ok},
         {"box-critical", "Path/File access error", "", platform::vbCritical, QMessageBox::Ok},
         {"box-ok-cancel", "This will Clear All Milestones", "Clear Milestones",
          platform::vbOKCancel + platform::vbQuestion + platform::vbDefaultButton2,
@@ -287,8 +287,9 @@ TEST_F(ScreensTest, MessageBoxesOfEachKindShowTheirWholeTitleAndText) {
         SCOPED_TRACE(kind.name);
         std::vector<std::string> faults;
         boxes.OnEachBox([&](QMessageBox& box) {
-            box.grab().save(QDir(ShotFolder()).filePath(QString::fromStdString(kind.name) +
-                                                        QStringLiteral(".png")));
+            box.grab().save(
+                QDir(ShotFolder())
+                    .filePath(QString::fromStdString(kind.name) + QStringLiteral(".png")));
             QFont titleFont = QApplication::font();
             titleFont.setBold(true);
             titleFont.setPixelSize(std::max(titleFont.pixelSize(), 16));
@@ -409,9 +410,11 @@ TEST_F(KeyboardTest, SetUpIsWalkedThroughWithTheKeyboardAlone) {
     QTest::keyClicks(Focus(), "12 Elm Street");
 
     // Ctrl+Tab turns the pages; the Assignments page puts the keyboard in its box.
-    for (int page = 0; page < frmSetup::kAssignmentsTab; ++page) Key(Qt::Key_Tab, Qt::ControlModifier);
+    for (int page = 0; page < frmSetup::kAssignmentsTab; ++page)
+        Key(Qt::Key_Tab, Qt::ControlModifier);
     ASSERT_EQ(setup.tabSetup.CurrentTab(), frmSetup::kAssignmentsTab);
-    ASSERT_TRUE(WaitFor([&] { return Focus() == WindowOf(setup).ViewOf(setup.cboAssignments)->FocusTarget(); }));
+    ASSERT_TRUE(WaitFor(
+        [&] { return Focus() == WindowOf(setup).ViewOf(setup.cboAssignments)->FocusTarget(); }));
     QTest::keyClicks(Focus(), "Framing Crew");
     ASSERT_TRUE(TabTo(setup, setup.cmdSave));
     Key(Qt::Key_Return);
@@ -441,7 +444,8 @@ TEST_F(KeyboardTest, SetUpIsWalkedThroughWithTheKeyboardAlone) {
     EXPECT_FALSE(setup.Visible());
     platform::Form* menu = platform::Forms::Existing("frmStartup");
     ASSERT_TRUE(menu && menu->Visible());
-    EXPECT_NE(folder.Read("MyBusinessData.txt").find("\"Hammer & Sons Construction\",\"12 Elm Street\""),
-              std::string::npos);
+    EXPECT_NE(
+        folder.Read("MyBusinessData.txt").find("\"Hammer & Sons Construction\",\"12 Elm Street\""),
+        std::string::npos);
     EXPECT_EQ(folder.Read("Characteristics.txt").rfind("\"Excavation\",", 0), 0u);
 }
