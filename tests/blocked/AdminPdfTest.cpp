@@ -1,5 +1,7 @@
 // The administrative events printout as a person sees it: written to PDF through the desktop
 // printer, the status lines running off the right edge of the portrait page as they always did.
+#include <gtest/gtest.h>
+
 #include <QApplication>
 #include <cstdlib>
 #include <fstream>
