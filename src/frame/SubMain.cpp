@@ -14,7 +14,9 @@
 #include "platform/Records.h"
 #include "platform/RuntimeError.h"
 #include "platform/Ui.h"
+#include "projects/CreationWizard.h"
 #include "projects/ProjectRecord.h"
+#include "projects/frmMain.h"
 #include "schedule/SchedulerRoutines.h"
 #include "schedule/Teams.h"
 #include "setup/AssignmentRoutines.h"
@@ -50,6 +52,7 @@ void RegisterScreens() {
     Register<frmBlock>();
     Register<frmAdmin>();
     Register<frmProjectControl>();
+    Register<frmMain>();
     ExitProgramHook = [] { ExitProgram(); };
     ShowMainMenuHook = [] { Forms::Get(frmStartup::kName).Show(); };
     OpenManualHook = [] { OpenAddress(kManualAddress); };
@@ -62,6 +65,7 @@ void ResetProgramState() {
     ResetDayState();
     ResetCharacteristics();
     ResetProjectTables();
+    ResetCreationState();
 }
 
 void SubMain() {
