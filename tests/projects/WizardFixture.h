@@ -8,6 +8,7 @@
 #include "platform/Files.h"
 #include "platform/Form.h"
 #include "platform/Ui.h"
+#include "frame/frmStartup.h"
 #include "projects/frmMain.h"
 #include "schedule/SchedulerRoutines.h"
 #include "store/SharedState.h"
