@@ -129,7 +129,7 @@ void EnterScreen(frmMain& form) {
         MsDate[1] = CurrentDate;
         ListBox& list = form.lstMilestoneSelection;
         for (int i = 0; i < list.ListCount(); ++i) list.SetSelected(i, true);
-        if (list.ListCount() > 0) list.SetTopIndex(0);
+        if (list.ListCount() > 0) list.SetListIndex(0);
         form.cmdContinue.SetEnabled(true);
     } else if (MenuRoutine == 3) {
         form.fraTime.SetVisible(true);
@@ -137,7 +137,7 @@ void EnterScreen(frmMain& form) {
         form.mnuWindows.SetEnabled(true);
         form.mnuTeamCal.SetEnabled(true);
         form.fraSchedule.SetVisible(true);
-        form.fraCalendar.SetVisible(true);
+        ShowCalendarFrame(form);
         form.cmdContinue.SetEnabled(false);
         form.cmdHourly.SetEnabled(true);
         form.fraTeam.SetVisible(true);
@@ -190,7 +190,7 @@ void EnterScheduling(frmMain& form) {
     form.fraBasicInst.SetVisible(false);
     form.fraSummary.SetVisible(false);
     form.fraSchedule.SetVisible(true);
-    form.fraCalendar.SetVisible(true);
+    ShowCalendarFrame(form);
     form.fraConEvents.SetVisible(true);
     form.cmdRedoEvent.SetEnabled(true);
     BuildMilestoneArrays(form);

@@ -150,7 +150,7 @@ void ShowMilestoneControls(frmMain& form) {
         form.fraTime.SetVisible(false);
         form.fraTeam.SetVisible(false);
         form.fraLocation.SetVisible(false);
-        form.fraCalendar.SetVisible(true);
+        ShowCalendarFrame(form);
         form.lblConstructionInstructions[1].SetVisible(true);
     }
 }

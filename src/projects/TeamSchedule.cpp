@@ -102,6 +102,7 @@ void CalendarChanged(frmMain& form) {
     CurrentDate = value;
     form.lblDay.SetCaption(FormatDate(value, "dddd"));
     form.lblDate.SetCaption(ShortDate(value));
+    form.MonthView1.SetToolTipText(DayNames[static_cast<size_t>(value.Weekday())]);
     FillTeamCalendar(form);
     ShowDayIfBusy(form);
 }
@@ -167,6 +168,11 @@ void ShowDayIfBusy(frmMain& form) {
             return;
         }
     }
+    ShowCalendarFrame(form);
+}
+
+void ShowCalendarFrame(frmMain& form) {
+    form.fraHours.SetVisible(false);
     form.fraCalendar.SetVisible(true);
 }
 

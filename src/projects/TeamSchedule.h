@@ -30,6 +30,8 @@ void ChooseTeam(frmMain& form);
 void StepTeam(frmMain& form, bool up);
 // The team's day on the grid; with anything on it the grid stays, otherwise the calendar.
 void ShowDayIfBusy(frmMain& form);
+// The calendar in the place it shares with the hourly grid.
+void ShowCalendarFrame(frmMain& form);
 void ShowHourlyDay(frmMain& form);
 
 // The month of the calendar in the 42 boxes, each day from today on showing the hours

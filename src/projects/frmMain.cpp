@@ -1,6 +1,7 @@
 #include "projects/frmMain.h"
 
 #include "platform/Form.h"
+#include "platform/Records.h"
 #include "platform/Ui.h"
 #include "projects/CreationWizard.h"
 #include "projects/MilestonePlacement.h"
@@ -197,7 +198,7 @@ void frmMain::LayOutScheduling() {
     fraTime.Move(120, 5400, 5760, 1080);
     Place(txtTime, "fraTime", 240, 300, 615, 315);
     txtTime.SetText("1");
-    txtTime.SetLocked(true);  // the spinner sets it
+    txtTime.SetMaxLength(2);
     Place(UpDnTime, "fraTime", 855, 300, 255, 315);
     UpDnTime.SetMin(1);
     UpDnTime.SetMax(12);
@@ -331,13 +332,13 @@ void frmMain::LayOutExtras() {
     optWorkSchedule[1].SetValue(true);
 
     fraPrint.SetCaption("Print the Work Schedule");
-    fraPrint.Move(6000, 5280, 6015, 1200);
+    fraPrint.Move(3000, 2400, 2880, 1560);
     fraPrint.SetTag(kHide);
-    Place(lblPrintHelp, "fraPrint", 240, 300, 5535, 285);
+    Place(lblPrintHelp, "fraPrint", 120, 300, 2640, 555);
     lblPrintHelp.SetCaption("Prints the Day of the selected Team, or of All Teams.");
-    Place(cmdInvoiceContinue, "fraPrint", 240, 660, 1815, 375);
+    Place(cmdInvoiceContinue, "fraPrint", 120, 1020, 1215, 375);
     cmdInvoiceContinue.SetCaption("&Print");
-    Place(cmdClosePrint, "fraPrint", 2280, 660, 1815, 375);
+    Place(cmdClosePrint, "fraPrint", 1440, 1020, 1215, 375);
     cmdClosePrint.SetCaption("Cancel");
 
     fraHelp.SetCaption("Help");
@@ -371,6 +372,8 @@ void frmMain::RegisterHandlers() {
     On("optSelect.Click", [this](EventArgs& e) { optSelect_Click(e.index); });
     On("tgTime.Click", [this](EventArgs&) { tgTime_Click(); });
     On("UpDnTime.Change", [this](EventArgs&) { UpDnTime_Change(); });
+    On("txtTime.KeyPress", [this](EventArgs& e) { txtTime_KeyPress(e); });
+    On("txtTime.Change", [this](EventArgs&) { txtTime_Change(); });
     On("lstTeam.Click", [this](EventArgs&) { lstTeam_Click(); });
     On("UpDnTeam.UpClick", [this](EventArgs&) { UpDnTeam_UpClick(); });
     On("UpDnTeam.DownClick", [this](EventArgs&) { UpDnTeam_DownClick(); });
@@ -497,6 +500,22 @@ void frmMain::UpDnTime_Change() {
     txtTime.SetText(std::to_string(UpDnTime.Value()));
 }
 
+void frmMain::txtTime_KeyPress(EventArgs& e) {
+    // A whole number of hours or days.
+    if (e.keyAscii == 8 || (e.keyAscii >= '0' && e.keyAscii <= '9')) return;
+    AlarmBeep();
+    e.keyAscii = 0;
+}
+
+void frmMain::txtTime_Change() {
+    const int typed = static_cast<int>(Val(txtTime.Text()));
+    if (typed > UpDnTime.Max()) {
+        txtTime.SetText(std::to_string(UpDnTime.Max()));
+        return;
+    }
+    if (typed >= UpDnTime.Min()) UpDnTime.SetValue(typed);
+}
+
 void frmMain::lstTeam_Click() {
     ChooseTeam(*this);
 }
@@ -530,8 +549,7 @@ void frmMain::cmdHourly_Click() {
 }
 
 void frmMain::cmdShowCal_Click() {
-    fraHours.SetVisible(false);
-    fraCalendar.SetVisible(true);
+    ShowCalendarFrame(*this);
 }
 
 void frmMain::fgHours_Click() {
@@ -599,5 +617,5 @@ void frmMain::cmdInvoiceContinue_Click() {
 void frmMain::cmdClosePrint_Click() {
     fraPrint.SetVisible(false);
     cmdView.SetVisible(true);
-    fraCalendar.SetVisible(true);
+    ShowCalendarFrame(*this);
 }

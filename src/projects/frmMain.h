@@ -147,6 +147,8 @@ class frmMain : public platform::Form {
     void optSelect_Click(int index);
     void tgTime_Click();
     void UpDnTime_Change();
+    void txtTime_KeyPress(platform::EventArgs& e);
+    void txtTime_Change();
     void lstTeam_Click();
     void UpDnTeam_UpClick();
     void UpDnTeam_DownClick();
