@@ -2,6 +2,7 @@
 
 #include "blocked/frmAdmin.h"
 #include "blocked/frmBlock.h"
+#include "control/ProjectListRoutines.h"
 #include "control/ProjectTables.h"
 #include "control/frmProjectControl.h"
 #include "frame/Navigation.h"
@@ -16,6 +17,7 @@
 #include "platform/Ui.h"
 #include "projects/CreationWizard.h"
 #include "projects/ProjectRecord.h"
+#include "projects/WorkSchedule.h"
 #include "projects/frmMain.h"
 #include "schedule/SchedulerRoutines.h"
 #include "schedule/Teams.h"
@@ -56,6 +58,15 @@ void RegisterScreens() {
     ExitProgramHook = [] { ExitProgram(); };
     ShowMainMenuHook = [] { Forms::Get(frmStartup::kName).Show(); };
     OpenManualHook = [] { OpenAddress(kManualAddress); };
+    // The day view of the team schedule reads the projects through the control screen's tables.
+    VisitProjectsHook = [](const ProjectVisitor& visit) {
+        LoadProjects(Screen<frmProjectControl>());
+        if (!ProjectsLoaded) return false;
+        for (int p = 1; p <= ProjectCount; ++p)
+            for (int m = 1; m <= HeaderOf(p).milestoneCount; ++m)
+                if (!visit(HeaderOf(p), MilestoneOf(p, m))) return true;
+        return true;
+    };
 }
 
 void ResetProgramState() {
