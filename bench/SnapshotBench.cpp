@@ -143,7 +143,7 @@ int main(int argc, char** argv) {
         BuildOffice(root);
     }
     HeadlessBackend backend;
-    backend.SetNow(DateTime::FromYmdHms(kYear, 6, 15, 9, 0, 0));
+    backend.SetNow(DateTime::FromYmdHms(kYear, 1, 2, 9, 0, 0));  // nothing purged yet
     SetBackend(&backend);
     SetAppFolder(root.string());
     SetProgramFileName("NorvaxConstructionScheduler");
@@ -197,6 +197,8 @@ int main(int argc, char** argv) {
     backend.QueueAnswer(vbYes);
     Print("clearing a day", Time([&] { form.cmdClear.Click(); }));
 
+    if (std::getenv("BENCH_TRANSCRIPT"))
+        for (const std::string& line : backend.Transcript()) std::printf("  %s\n", line.c_str());
     Forms::Reset();
     SetBackend(nullptr);
     if (!keep) fs::remove_all(root);

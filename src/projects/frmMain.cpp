@@ -60,7 +60,7 @@ void frmMain::LayOut() {
     lblPrintSched.SetCaption("Print Schedule");
     lblPrintSched.SetAlignment(2);
     lblPrintSched.SetBorderStyle(true);
-    lblPrintSched.Move(5880, row + 105, 1335, 285);
+    lblPrintSched.Move(5820, row + 60, 1455, 375);
     cmdStartOver.SetCaption("&Start Over");
     cmdStartOver.Move(7320, row, 1335, 495);
     cmdHelp.SetCaption("&Help");
