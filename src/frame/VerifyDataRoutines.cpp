@@ -1,6 +1,7 @@
 #include "frame/VerifyDataRoutines.h"
 
 #include "platform/Controls.h"
+#include "platform/Numbers.h"
 #include "platform/Records.h"
 #include "platform/Ui.h"
 #include "store/SharedState.h"

@@ -12,7 +12,7 @@ DialogBackend* installedBackend = nullptr;
 
 // A cancel is an error only when the caller asked for it.
 bool Cancelled(const CommonDialog& dialog, const char* where) {
-    if (dialog.CancelError) throw RuntimeError(cdlCancel, "Cancel was selected", where);
+    if (dialog.CancelError) Raise(cdlCancel, where);
     return false;
 }
 

@@ -71,7 +71,7 @@ void SetDialogBackend(DialogBackend* backend);
 // The shared dialog object, with the properties the system reads and writes.
 class CommonDialog {
   public:
-    // When set, a cancel raises the run-time error 32755 "Cancel was selected".
+    // When set, a cancel raises the run-time error 32755 "Cancel was selected.".
     bool CancelError = false;
     int Flags = 0;
     std::string DialogTitle;

@@ -2,20 +2,21 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cerrno>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
-#include <cstdlib>
 #include <fstream>
 #include <map>
 #include <memory>
 #include <system_error>
 #include <unordered_map>
 
+#include <fcntl.h>
 #include <sys/stat.h>
-
 #include <unistd.h>
 
+#include "platform/Numbers.h"
 #include "platform/Records.h"
 #include "platform/RuntimeError.h"
 
@@ -34,24 +35,51 @@ std::string& ProgramName() {
     return name;
 }
 
-// One separator, and no blanks at the end of a component: the file system of the data's
-// home drops them, so "Team#1 " names the folder Team#1.
-std::string Normalise(const std::string& path) {
-    std::string out;
-    out.reserve(path.size());
-    auto dropTrailingBlanks = [&out] {
-        size_t start = out.rfind('/');
-        start = start == std::string::npos ? 0 : start + 1;
-        while (out.size() > start && out.back() == ' ') out.pop_back();
-    };
-    for (char c : path) {
-        if (c == '\\') c = '/';
-        if (c == '/') dropTrailingBlanks();
-        if (c == '/' && !out.empty() && out.back() == '/') continue;
-        out += c;
+// Both separators as `/`, no doubled or trailing separator, "." and ".." taken out by the
+// text alone, and no blanks at the end of a component: the file system of the data's home
+// drops them, so "Team#1 " names the folder Team#1.
+std::string Lexical(const std::string& path) {
+    if (path.empty()) return path;
+    std::vector<std::string> parts;
+    size_t start = 0;
+    while (start <= path.size()) {
+        size_t end = path.find_first_of("/\\", start);
+        if (end == std::string::npos) end = path.size();
+        std::string part = path.substr(start, end - start);
+        while (!part.empty() && part.back() == ' ') part.pop_back();
+        if (part == "..") {
+            if (!parts.empty() && !parts.back().empty() && parts.back() != "..")
+                parts.pop_back();
+            else if (parts.empty() || !parts.back().empty())
+                parts.push_back(part);  // above a relative start
+        } else if (part != "." && !(part.empty() && !parts.empty())) {
+            parts.push_back(part);
+        }
+        start = end + 1;
     }
-    dropTrailingBlanks();
-    while (out.size() > 1 && out.back() == '/') out.pop_back();
+    std::string out;
+    for (size_t i = 0; i < parts.size(); ++i) {
+        if (i > 0) out += '/';
+        out += parts[i];
+    }
+    if (out.empty()) return parts.empty() ? std::string(".") : std::string("/");
+    return out;
+}
+
+// The path as the file services use it. A path that starts in the program folder may not
+// leave it: a name built from data that climbs out is refused before anything is made.
+std::string Normalise(const std::string& path) {
+    if (path.find('\0') != std::string::npos) Raise(err::BadFileNameOrNumber, path);
+    const std::string out = Lexical(path);
+    const std::string& app = AppFolderText();
+    std::string given;
+    for (char c : path) given += c == '\\' ? '/' : c;
+    const bool inApp = !app.empty() && given.size() > app.size() &&
+                       given.compare(0, app.size(), app) == 0 && given[app.size()] == '/';
+    if (inApp && out != app &&
+        !(out.size() > app.size() && out.compare(0, app.size(), app) == 0 &&
+          out[app.size()] == '/'))
+        Raise(err::PathFileAccessError, path);
     return out;
 }
 
@@ -68,6 +96,7 @@ struct OpenFile {
     std::string buffer;  // whole content for input, pending content for output
     size_t pos = 0;
     int recordLength = 128;
+    bool madeEmpty = false;  // the open made the file, empty, as the platform does
     std::unique_ptr<std::fstream> random;
 };
 
@@ -82,27 +111,221 @@ OpenFile& Get(int fileNo, const char* where) {
     return it->second;
 }
 
+bool SequentialOutput(OpenMode mode) {
+    return mode == OpenMode::Output || mode == OpenMode::Append;
+}
+
+// Whether the file is open under any number; with `forOutput`, only for sequential output.
+bool IsOpen(const fs::path& target, bool forOutput = false) {
+    for (const auto& [no, f] : Table())
+        if (f.target == target && (!forOutput || SequentialOutput(f.mode))) return true;
+    return false;
+}
+
+// The platform's error for a failed call of the system on a file; `otherwise` where the
+// reason has no error of its own.
+int ErrorFromSystem(int error, int otherwise) {
+    switch (error) {
+        case EACCES:
+        case EPERM:
+        case EROFS:
+            return err::PermissionDenied;
+        case ENOSPC:
+        case EDQUOT:
+            return err::DiskFull;
+        case EMFILE:
+        case ENFILE:
+            return err::TooManyFiles;
+        case EIO:
+            return err::DeviceIOError;
+        default:
+            return otherwise;
+    }
+}
+
+// What a path names on disk: nothing, a file, a folder, or something else (a pipe, a
+// device) that the data files never are.
+enum class Kind { None, File, Folder, Other };
+
+Kind KindOf(const std::string& path, struct stat* info = nullptr) {
+    struct stat st {};
+    if (::stat(path.c_str(), &st) != 0) return Kind::None;
+    if (info) *info = st;
+    return S_ISDIR(st.st_mode) ? Kind::Folder : S_ISREG(st.st_mode) ? Kind::File : Kind::Other;
+}
+
+// A file without any write permission is read-only, as the attribute of the platform:
+// it is never written, replaced or deleted.
+bool Writable(const std::string& path, const struct stat& st) {
+    if ((st.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0) return false;
+    return ::access(path.c_str(), W_OK) == 0;
+}
+
+// A descriptor that is closed when it goes.
+struct Descriptor {
+    explicit Descriptor(int fd) : fd(fd) {}
+    ~Descriptor() {
+        if (fd >= 0) ::close(fd);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    int fd;
+};
+
+// The whole content of a regular file. Nothing else is read, so that a pipe or a device in
+// the place of a data file cannot hold the program.
+std::string ReadWhole(const std::string& path) {
+    Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    if (file.fd < 0) Raise(ErrorFromSystem(errno, err::FileNotFound), path);
+    struct stat st {};
+    if (::fstat(file.fd, &st) != 0 || !S_ISREG(st.st_mode)) Raise(err::PathFileAccessError, path);
+    std::string content;
+    char block[65536];
+    for (;;) {
+        const ssize_t n = ::read(file.fd, block, sizeof block);
+        if (n == 0) break;
+        if (n < 0) {
+            if (errno == EINTR) continue;
+            Raise(ErrorFromSystem(errno, err::DeviceIOError), path);
+        }
+        content.append(block, static_cast<size_t>(n));
+    }
+    return content;
+}
+
+// Writes the whole of `bytes` to a new file, or one emptied.
+void WriteWhole(const fs::path& path, const std::string& bytes, const fs::path& reported) {
+    Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+    if (file.fd < 0) Raise(ErrorFromSystem(errno, err::PathNotFound), reported.string());
+    size_t done = 0;
+    while (done < bytes.size()) {
+        const ssize_t n = ::write(file.fd, bytes.data() + done, bytes.size() - done);
+        if (n < 0) {
+            if (errno == EINTR) continue;
+            const int error = errno;
+            std::error_code ec;
+            fs::remove(path, ec);
+            Raise(ErrorFromSystem(error, err::DeviceIOError), reported.string());
+        }
+        done += static_cast<size_t>(n);
+    }
+}
+
+// Names of a folder, by their lower-case spelling, as they were when the folder was
+// last listed or last changed by the program itself.
+struct FolderNames {
+    struct timespec modified {};
+    bool listed = false;
+    std::unordered_map<std::string, std::string> byLowerCase;
+};
+
+std::unordered_map<std::string, FolderNames>& NameCache() {
+    static std::unordered_map<std::string, FolderNames> cache;
+    return cache;
+}
+
+long folderScans = 0;
+
+bool SameTime(const struct timespec& a, const struct timespec& b) {
+    return a.tv_sec == b.tv_sec && a.tv_nsec == b.tv_nsec;
+}
+
+std::string Lower(std::string_view s) {
+    std::string out(s);
+    for (auto& c : out) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return out;
+}
+
+// The real spelling of `name` in `folder`, when it differs only by case; empty when none.
+std::string SpellingIn(const std::string& folder, const std::string& name) {
+    struct stat st {};
+    if (KindOf(folder, &st) != Kind::Folder) return {};
+    FolderNames& names = NameCache()[folder];
+    if (!names.listed || !SameTime(names.modified, st.st_mtim)) {
+        ++folderScans;
+        names.byLowerCase.clear();
+        std::error_code ec;
+        for (const auto& entry : fs::directory_iterator(folder, ec)) {
+            const std::string real = entry.path().filename().string();
+            names.byLowerCase.emplace(Lower(real), real);
+        }
+        names.modified = st.st_mtim;
+        names.listed = true;
+    }
+    auto it = names.byLowerCase.find(Lower(name));
+    return it == names.byLowerCase.end() ? std::string() : it->second;
+}
+
+// A name the program itself adds to or removes from a folder. When the names of the folder
+// were up to date before, they are kept up to date with the change: the program knows what
+// it made without listing the folder again.
+class FolderChange {
+  public:
+    explicit FolderChange(const fs::path& entry)
+        : folder_(entry.parent_path().string()), name_(entry.filename().string()) {
+        auto it = NameCache().find(folder_);
+        struct stat st {};
+        upToDate_ = it != NameCache().end() && it->second.listed &&
+                    ::stat(folder_.c_str(), &st) == 0 && SameTime(it->second.modified, st.st_mtim);
+    }
+
+    void Done(bool present) {
+        auto it = NameCache().find(folder_);
+        if (it == NameCache().end()) return;
+        struct stat st {};
+        if (!upToDate_ || ::stat(folder_.c_str(), &st) != 0) {
+            NameCache().erase(it);
+            return;
+        }
+        auto& names = it->second.byLowerCase;
+        const std::string key = Lower(name_);
+        if (present) {
+            names.emplace(key, name_);
+        } else {
+            auto found = names.find(key);
+            if (found != names.end() && found->second == name_) names.erase(found);
+        }
+        it->second.modified = st.st_mtim;
+    }
+
+  private:
+    std::string folder_;
+    std::string name_;
+    bool upToDate_ = false;
+};
+
+// Forgets the names kept of a folder and of every folder below it, when it goes or moves.
+void ForgetFolder(const std::string& folder) {
+    const std::string below = folder + "/";
+    for (auto it = NameCache().begin(); it != NameCache().end();) {
+        if (it->first == folder || it->first.starts_with(below))
+            it = NameCache().erase(it);
+        else
+            ++it;
+    }
+}
+
+// Makes an empty file where there was none.
+void MakeEmptyFile(const fs::path& path) {
+    FolderChange change(path);
+    Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    if (file.fd < 0) Raise(ErrorFromSystem(errno, err::PathFileAccessError), path.string());
+    change.Done(true);
+}
+
 // Sequential output reaches its name only when complete: written under a temporary
 // name in the same folder, then renamed over the old file. A crash leaves the old file.
 void Commit(OpenFile& f) {
-    if (f.mode != OpenMode::Output && f.mode != OpenMode::Append) return;
-    {
-        std::ofstream out(f.temporary, std::ios::binary | std::ios::trunc);
-        if (!out) Raise(err::PathNotFound, f.target.string());
-        out.write(f.buffer.data(), static_cast<std::streamsize>(f.buffer.size()));
-        out.flush();
-        if (!out) {
-            std::error_code ec;
-            fs::remove(f.temporary, ec);
-            Raise(err::PathFileAccessError, f.target.string());
-        }
-    }
-    std::error_code ec;
-    fs::rename(f.temporary, f.target, ec);
-    if (ec) {
+    if (!SequentialOutput(f.mode)) return;
+    FolderChange change(f.target);
+    WriteWhole(f.temporary, f.buffer, f.target);
+    if (::rename(f.temporary.c_str(), f.target.c_str()) != 0) {
+        const int error = errno;
+        std::error_code ec;
         fs::remove(f.temporary, ec);
-        Raise(err::PermissionDenied, f.target.string());
+        Raise(ErrorFromSystem(error, err::PermissionDenied), f.target.string());
     }
+    change.Done(true);
 }
 
 // Reads one value of a delimited line and steps over its delimiter (a comma or a line end).
@@ -140,28 +363,22 @@ std::string NextToken(OpenFile& f, bool& quoted) {
     return token;
 }
 
-bool ParseNumber(const std::string& token, double& out) {
+// A value of a delimited line read into a number: empty is 0 and the flags are -1 and 0;
+// anything else goes by the platform's rules for numbers in text.
+NumberText TokenNumber(const std::string& token, double& out) {
     if (token.empty()) {
         out = 0;
-        return true;
+        return NumberText::Number;
     }
-    if (token == "#TRUE#") return out = -1, true;
-    if (token == "#FALSE#") return out = 0, true;
-    // Decimal digits only: no "nan", "inf", hexadecimal or bytes past a NUL.
-    if (token.find_first_not_of("0123456789+-.eE") != std::string::npos) return false;
-    char* end = nullptr;
-    out = std::strtod(token.c_str(), &end);
-    return end && *end == '\0';
-}
-
-fs::path Resolved(const std::string& path) {
-    return ResolvePath(path);
+    if (token == "#TRUE#") return out = -1, NumberText::Number;
+    if (token == "#FALSE#") return out = 0, NumberText::Number;
+    return ParseNumber(token, out);
 }
 
 }  // namespace
 
 void SetAppFolder(const std::string& folder) {
-    AppFolderText() = Normalise(folder);
+    AppFolderText() = Lexical(folder);
 }
 const std::string& AppFolder() {
     return AppFolderText();
@@ -173,49 +390,11 @@ void SetProgramFileName(const std::string& name) {
     ProgramName() = name;
 }
 
+long FolderScans() {
+    return folderScans;
+}
+
 namespace {
-
-// What a path names on disk: nothing, a file or a folder.
-enum class Kind { None, File, Folder };
-
-Kind KindOf(const std::string& path, struct stat* info = nullptr) {
-    struct stat st {};
-    if (::stat(path.c_str(), &st) != 0) return Kind::None;
-    if (info) *info = st;
-    return S_ISDIR(st.st_mode) ? Kind::Folder : S_ISREG(st.st_mode) ? Kind::File : Kind::None;
-}
-
-// Names of a folder, by their lower-case spelling, kept while the folder does not change.
-struct FolderNames {
-    struct timespec modified {};
-    std::unordered_map<std::string, std::string> byLowerCase;
-};
-
-std::string Lower(std::string_view s) {
-    std::string out(s);
-    for (auto& c : out) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    return out;
-}
-
-// The real spelling of `name` in `folder`, when it differs only by case; empty when none.
-std::string SpellingIn(const std::string& folder, const std::string& name) {
-    static std::unordered_map<std::string, FolderNames> cache;
-    struct stat st {};
-    if (KindOf(folder, &st) != Kind::Folder) return {};
-    FolderNames& names = cache[folder];
-    if (names.modified.tv_sec != st.st_mtim.tv_sec ||
-        names.modified.tv_nsec != st.st_mtim.tv_nsec || names.byLowerCase.empty()) {
-        names.byLowerCase.clear();
-        std::error_code ec;
-        for (const auto& entry : fs::directory_iterator(folder, ec)) {
-            const std::string real = entry.path().filename().string();
-            names.byLowerCase.emplace(Lower(real), real);
-        }
-        names.modified = st.st_mtim;
-    }
-    auto it = names.byLowerCase.find(Lower(name));
-    return it == names.byLowerCase.end() ? std::string() : it->second;
-}
 
 // The path as it is spelled on disk: exact when it exists, otherwise matched component by
 // component without regard to case, from the program folder down when it lies below it.
@@ -259,6 +438,10 @@ std::string ResolveText(const std::string& path, Kind* kind = nullptr) {
     return current;
 }
 
+fs::path Resolved(const std::string& path) {
+    return fs::path(ResolveText(path));
+}
+
 }  // namespace
 
 fs::path ResolvePath(const std::string& path) {
@@ -300,21 +483,43 @@ bool WildcardMatch(std::string_view name, std::string_view pattern) {
 }
 
 void MkDir(const std::string& path) {
-    fs::path target = Resolved(path);
-    std::error_code ec;
-    if (fs::exists(target, ec)) Raise(err::PathFileAccessError, target.string());
-    if (!fs::is_directory(target.parent_path(), ec)) Raise(err::PathNotFound, target.string());
-    if (!fs::create_directory(target, ec) || ec) Raise(err::PathFileAccessError, target.string());
+    const fs::path target = Resolved(path);
+    if (KindOf(target.string()) != Kind::None) Raise(err::PathFileAccessError, target.string());
+    if (KindOf(target.parent_path().string()) != Kind::Folder)
+        Raise(err::PathNotFound, target.string());
+    FolderChange change(target);
+    if (::mkdir(target.c_str(), 0777) != 0)
+        Raise(ErrorFromSystem(errno, err::PathFileAccessError), target.string());
+    change.Done(true);
 }
 
 void RmDir(const std::string& path) {
-    fs::path target = Resolved(path);
+    const fs::path target = Resolved(path);
     std::error_code ec;
     if (!fs::is_directory(target, ec)) Raise(err::PathNotFound, target.string());
     if (!fs::is_empty(target, ec)) Raise(err::PathFileAccessError, target.string());
-    fs::remove(target, ec);
-    if (ec) Raise(err::PathFileAccessError, target.string());
+    FolderChange change(target);
+    if (::rmdir(target.c_str()) != 0)
+        Raise(ErrorFromSystem(errno, err::PathFileAccessError), target.string());
+    ForgetFolder(target.string());
+    change.Done(false);
 }
+
+namespace {
+
+// Deletes one regular file, refusing an open or read-only one.
+void DeleteOneFile(const fs::path& target) {
+    struct stat st {};
+    if (KindOf(target.string(), &st) != Kind::File) Raise(err::FileNotFound, target.string());
+    if (IsOpen(target)) Raise(err::PathFileAccessError, target.string());
+    if (!Writable(target.string(), st)) Raise(err::PermissionDenied, target.string());
+    FolderChange change(target);
+    if (::unlink(target.c_str()) != 0)
+        Raise(ErrorFromSystem(errno, err::PathFileAccessError), target.string());
+    change.Done(false);
+}
+
+}  // namespace
 
 void Kill(const std::string& pattern) {
     const std::string norm = Normalise(pattern);
@@ -323,51 +528,67 @@ void Kill(const std::string& pattern) {
     const std::string mask = slash == std::string::npos ? norm : norm.substr(slash + 1);
     std::error_code ec;
     if (mask.find_first_of("*?") == std::string::npos) {
-        fs::path target = Resolved(norm);
-        if (!fs::is_regular_file(target, ec)) Raise(err::FileNotFound, target.string());
-        if (!fs::remove(target, ec) || ec) Raise(err::PermissionDenied, target.string());
+        DeleteOneFile(Resolved(norm));
         return;
     }
-    fs::path dir = Resolved(folder);
+    const fs::path dir = Resolved(folder);
     if (!fs::is_directory(dir, ec)) Raise(err::PathNotFound, dir.string());
-    bool any = false;
+    std::vector<fs::path> matches;
     for (const auto& entry : fs::directory_iterator(dir, ec)) {
         if (!entry.is_regular_file(ec)) continue;
-        if (!WildcardMatch(entry.path().filename().string(), mask)) continue;
-        fs::remove(entry.path(), ec);
-        any = true;
+        if (WildcardMatch(entry.path().filename().string(), mask)) matches.push_back(entry.path());
     }
-    if (!any) Raise(err::FileNotFound, norm);
+    if (matches.empty()) Raise(err::FileNotFound, norm);
+    std::sort(matches.begin(), matches.end());
+    for (const auto& match : matches) DeleteOneFile(match);
 }
 
 void FileCopy(const std::string& source, const std::string& target) {
-    fs::path from = Resolved(source);
-    fs::path to = Resolved(target);
-    std::error_code ec;
-    if (!fs::is_regular_file(from, ec)) Raise(err::FileNotFound, from.string());
-    if (!fs::is_directory(to.parent_path(), ec)) Raise(err::PathNotFound, to.string());
+    const fs::path from = Resolved(source);
+    const fs::path to = Resolved(target);
+    if (KindOf(from.string()) != Kind::File) Raise(err::FileNotFound, from.string());
+    if (KindOf(to.parent_path().string()) != Kind::Folder) Raise(err::PathNotFound, to.string());
     for (const auto& [no, f] : Table())
-        if (f.mode != OpenMode::Input && f.target == to) Raise(err::PermissionDenied, to.string());
+        if ((f.target == to && f.mode != OpenMode::Input) ||
+            (f.target == from && SequentialOutput(f.mode)))
+            Raise(err::PermissionDenied, to.string());
+    struct stat st {};
+    const Kind existing = KindOf(to.string(), &st);
+    if (existing == Kind::Folder || existing == Kind::Other)
+        Raise(err::PathFileAccessError, to.string());
+    if (existing == Kind::File && !Writable(to.string(), st))
+        Raise(err::PermissionDenied, to.string());
     // Copy beside the target, then rename: the target is never half written.
     fs::path temporary = to;
     temporary += ".~copy";
-    fs::copy_file(from, temporary, fs::copy_options::overwrite_existing, ec);
-    if (ec) Raise(err::PathFileAccessError, to.string());
-    fs::rename(temporary, to, ec);
-    if (ec) {
+    FolderChange change(to);
+    WriteWhole(temporary, ReadWhole(from.string()), to);
+    if (::rename(temporary.c_str(), to.c_str()) != 0) {
+        const int error = errno;
+        std::error_code ec;
         fs::remove(temporary, ec);
-        Raise(err::PermissionDenied, to.string());
+        Raise(ErrorFromSystem(error, err::PermissionDenied), to.string());
     }
+    change.Done(true);
 }
 
 void Name(const std::string& oldPath, const std::string& newPath) {
-    fs::path from = Resolved(oldPath);
-    fs::path to = Resolved(newPath);
-    std::error_code ec;
-    if (!fs::exists(from, ec)) Raise(err::FileNotFound, from.string());
-    if (fs::exists(to, ec)) Raise(err::FileAlreadyExists, to.string());
-    fs::rename(from, to, ec);
-    if (ec) Raise(err::PathFileAccessError, to.string());
+    const fs::path from = Resolved(oldPath);
+    const fs::path to = Resolved(newPath);
+    const Kind kind = KindOf(from.string());
+    if (kind == Kind::None) Raise(err::FileNotFound, from.string());
+    if (KindOf(to.string()) != Kind::None) Raise(err::FileAlreadyExists, to.string());
+    if (IsOpen(from)) Raise(err::PathFileAccessError, from.string());
+    FolderChange removed(from);
+    FolderChange added(to);
+    if (::rename(from.c_str(), to.c_str()) != 0)
+        Raise(ErrorFromSystem(errno, err::PathFileAccessError), to.string());
+    if (kind == Kind::Folder) {
+        ForgetFolder(from.string());
+        ForgetFolder(to.string());
+    }
+    removed.Done(false);
+    added.Done(true);
 }
 
 std::int64_t FileLen(const std::string& path) {
@@ -411,38 +632,41 @@ void Open(int fileNo, const std::string& path, OpenMode mode, int recordLength) 
     f.mode = mode;
     f.target = Resolved(path);
     f.recordLength = recordLength;
-    std::error_code ec;
-    if (fs::is_directory(f.target, ec)) Raise(err::PathFileAccessError, f.target.string());
+    const std::string target = f.target.string();
+    // A file open for sequential output is open for nothing else, and the other way round.
+    if (IsOpen(f.target, !SequentialOutput(mode))) Raise(err::FileAlreadyOpen, target);
+    struct stat st {};
+    const Kind kind = KindOf(target, &st);
+    if (kind == Kind::Folder || kind == Kind::Other) Raise(err::PathFileAccessError, target);
+    if (mode != OpenMode::Input) {
+        if (mode == OpenMode::Random && recordLength <= 0) Raise(err::BadRecordLength, target);
+        if (KindOf(f.target.parent_path().string()) != Kind::Folder)
+            Raise(err::PathNotFound, target);
+        if (kind == Kind::File && !Writable(target, st)) Raise(err::PermissionDenied, target);
+    }
     switch (mode) {
-        case OpenMode::Input: {
-            std::ifstream in(f.target, std::ios::binary);
-            if (!in) Raise(err::FileNotFound, f.target.string());
-            f.buffer.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+        case OpenMode::Input:
+            if (kind == Kind::None) Raise(err::FileNotFound, target);
+            f.buffer = ReadWhole(target);
             break;
-        }
         case OpenMode::Output:
-        case OpenMode::Append: {
-            if (!fs::is_directory(f.target.parent_path(), ec))
-                Raise(err::PathNotFound, f.target.string());
-            if (mode == OpenMode::Append && fs::is_regular_file(f.target, ec)) {
-                std::ifstream in(f.target, std::ios::binary);
-                f.buffer.assign(std::istreambuf_iterator<char>(in),
-                                std::istreambuf_iterator<char>());
-            }
+        case OpenMode::Append:
+            if (mode == OpenMode::Append && kind == Kind::File) f.buffer = ReadWhole(target);
             f.temporary = f.target;
             f.temporary += ".~" + std::to_string(::getpid());
+            // The file is there from the open on, as on the platform; its content comes
+            // with the close.
+            if (kind == Kind::None) {
+                MakeEmptyFile(f.target);
+                f.madeEmpty = true;
+            }
             break;
-        }
-        case OpenMode::Random: {
-            if (recordLength <= 0) Raise(err::BadRecordLength, f.target.string());
-            if (!fs::is_directory(f.target.parent_path(), ec))
-                Raise(err::PathNotFound, f.target.string());
-            if (!fs::exists(f.target, ec)) std::ofstream(f.target, std::ios::binary);
+        case OpenMode::Random:
+            if (kind == Kind::None) MakeEmptyFile(f.target);
             f.random = std::make_unique<std::fstream>(
                 f.target, std::ios::binary | std::ios::in | std::ios::out);
-            if (!*f.random) Raise(err::PermissionDenied, f.target.string());
+            if (!*f.random) Raise(err::PermissionDenied, target);
             break;
-        }
     }
     Table().emplace(fileNo, std::move(f));
 }
@@ -460,6 +684,14 @@ void CloseAll() {
 }
 
 void AbandonAll() {
+    // A file that only the open made goes again: nothing of the failed run stays.
+    for (const auto& [no, f] : Table()) {
+        struct stat st {};
+        if (f.madeEmpty && KindOf(f.target.string(), &st) == Kind::File && st.st_size == 0) {
+            FolderChange change(f.target);
+            if (::unlink(f.target.c_str()) == 0) change.Done(false);
+        }
+    }
     Table().clear();
 }
 
@@ -548,31 +780,29 @@ std::string InputString(int fileNo) {
 double InputNumber(int fileNo) {
     OpenFile& f = Get(fileNo, "Input");
     bool quoted;
-    std::string token = NextToken(f, quoted);
-    double value;
-    if (!ParseNumber(token, value)) Raise(err::TypeMismatch, f.target.string());
-    return value;
+    const std::string token = NextToken(f, quoted);
+    double value = 0;
+    switch (TokenNumber(token, value)) {
+        case NumberText::Number:
+            return value;
+        case NumberText::Overflow:
+            Raise(err::Overflow, f.target.string());
+        case NumberText::NotANumber:
+            break;
+    }
+    Raise(err::TypeMismatch, f.target.string());
 }
-
-namespace {
-double InputInRange(int fileNo, double low, double high) {
-    const double rounded = std::nearbyint(InputNumber(fileNo));
-    if (rounded < low || rounded > high)
-        Raise(6, Get(fileNo, "Input").target.string());  // Overflow
-    return rounded;
-}
-}  // namespace
 
 std::int32_t InputInt32(int fileNo) {
-    return static_cast<std::int32_t>(InputInRange(fileNo, -2147483648.0, 2147483647.0));
+    return CLng(InputNumber(fileNo));
 }
 
 std::int16_t InputInt16(int fileNo) {
-    return static_cast<std::int16_t>(InputInRange(fileNo, -32768, 32767));
+    return CInt(InputNumber(fileNo));
 }
 
 std::uint8_t InputByte(int fileNo) {
-    return static_cast<std::uint8_t>(InputInRange(fileNo, 0, 255));
+    return CByte(InputNumber(fileNo));
 }
 
 bool InputBool(int fileNo) {
@@ -583,7 +813,8 @@ bool InputBool(int fileNo) {
     if (upper == "#TRUE#" || upper == "TRUE") return true;
     if (upper == "#FALSE#" || upper == "FALSE") return false;
     double value;
-    if (!quoted && !token.empty() && ParseNumber(token, value)) return value != 0;
+    if (!quoted && !token.empty() && ParseNumber(token, value) == NumberText::Number)
+        return value != 0;
     Raise(err::TypeMismatch, f.target.string());
 }
 

@@ -12,6 +12,10 @@
 
 // File services of the platform. Paths are full paths as text; `/` and `\` are both
 // separators, and a path names the same file whatever the case of its components.
+// A path that starts in the program folder and climbs out of it with ".." is the run-time
+// failure "Path/File access error" (75), before anything is made or deleted. A file with no
+// write permission is read-only: writing, replacing or deleting it is "Permission denied"
+// (70), as is reading one that may not be read. Only regular files are read or written.
 namespace platform {
 
 void SetAppFolder(const std::string& folder);
@@ -31,10 +35,16 @@ void FileCopy(const std::string& source, const std::string& target);
 void Name(const std::string& oldPath, const std::string& newPath);
 std::int64_t FileLen(const std::string& path);
 std::vector<std::string> Dir(const std::string& pattern, bool folders = false);
+// How often a folder has been listed to match a name without regard to case; the folders
+// the program changes itself are known without listing them again.
+long FolderScans();
 
 enum class OpenMode { Input, Output, Append, Random };
 
 int FreeFile();
+// A file open for output or append is open for nothing else, and may not be opened for
+// output while it is open in any way: "File already open" (55). The file exists from the
+// open on (empty, when it is new); what is written reaches it at the close.
 void Open(int fileNo, const std::string& path, OpenMode mode, int recordLength = 128);
 void Close(int fileNo);
 void CloseAll();

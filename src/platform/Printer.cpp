@@ -13,8 +13,6 @@ namespace {
 
 PrinterDevice* installedDevice = nullptr;
 
-constexpr int kInvalidPicture = 481;
-
 std::string Number(double value) {
     char buffer[32];
     if (value == std::floor(value)) {
@@ -196,7 +194,7 @@ void PrinterObject::Line(double x1, double y1, double x2, double y2, std::int32_
 void PrinterObject::PaintPicture(const std::string& picturePath, double x, double y, double width,
                                  double height) {
     if (picturePath.empty()) {
-        throw RuntimeError(kInvalidPicture, "Invalid picture", "Printer.PaintPicture");
+        Raise(err::InvalidPicture, "Printer.PaintPicture");
     }
     PrintOperation op;
     op.kind = PrintOperation::Kind::Picture;

@@ -1,7 +1,6 @@
 #include "platform/Records.h"
 
 #include <cctype>
-#include <cstdlib>
 #include <cstring>
 
 namespace platform {
@@ -128,25 +127,6 @@ std::string LCase(std::string_view text) {
     std::string out(text);
     for (auto& c : out) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
     return out;
-}
-
-bool IsNumeric(std::string_view text) {
-    std::string t = Trim(text);
-    if (t.empty()) return false;
-    std::string digits;
-    for (char c : t)
-        if (c != ',' && c != '$') digits += c;
-    if (digits.empty() || digits == "." || digits == "-" || digits == "+") return false;
-    char* end = nullptr;
-    std::strtod(digits.c_str(), &end);
-    return end && *end == '\0';
-}
-
-double Val(std::string_view text) {
-    std::string t;
-    for (char c : text)
-        if (c != ' ' && c != '\t') t += c;
-    return std::strtod(t.c_str(), nullptr);
 }
 
 }  // namespace platform

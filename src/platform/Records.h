@@ -49,7 +49,5 @@ std::string RTrim(std::string_view text);
 std::string LTrim(std::string_view text);
 std::string UCase(std::string_view text);
 std::string LCase(std::string_view text);
-bool IsNumeric(std::string_view text);
-double Val(std::string_view text);
 
 }  // namespace platform

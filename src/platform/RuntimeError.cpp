@@ -8,39 +8,62 @@ RuntimeError::RuntimeError(int number, std::string description, std::string wher
       description_(std::move(description)),
       where_(std::move(where)) {}
 
+namespace {
+
+struct ErrorText {
+    int number;
+    const char* text;
+};
+
+// The platform's descriptions, word for word, of every error the program can raise.
+constexpr ErrorText kErrorTexts[] = {
+    {err::InvalidProcedureCall, "Invalid procedure call or argument"},
+    {err::Overflow, "Overflow"},
+    {7, "Out of memory"},
+    {err::SubscriptOutOfRange, "Subscript out of range"},
+    {11, "Division by zero"},
+    {err::TypeMismatch, "Type mismatch"},
+    {err::BadFileNameOrNumber, "Bad file name or number"},
+    {err::FileNotFound, "File not found"},
+    {err::BadFileMode, "Bad file mode"},
+    {err::FileAlreadyOpen, "File already open"},
+    {err::DeviceIOError, "Device I/O error"},
+    {err::FileAlreadyExists, "File already exists"},
+    {err::BadRecordLength, "Bad record length"},
+    {err::DiskFull, "Disk full"},
+    {err::InputPastEnd, "Input past end of file"},
+    {err::BadRecordNumber, "Bad record number"},
+    {err::TooManyFiles, "Too many files"},
+    {68, "Device unavailable"},
+    {err::PermissionDenied, "Permission denied"},
+    {err::DiskNotReady, "Disk not ready"},
+    {74, "Can't rename with different drive"},
+    {err::PathFileAccessError, "Path/File access error"},
+    {err::PathNotFound, "Path not found"},
+    {91, "Object variable or With block variable not set"},
+    {94, "Invalid use of Null"},
+    {err::InvalidPropertyValue, "Invalid property value"},
+    {err::InvalidPropertyArrayIndex, "Invalid property array index"},
+    {err::TextPropertyReadOnly, "'Text' property is read-only"},
+    {err::InvalidPicture, "Invalid picture"},
+    {err::PrinterError, "Printer error"},
+    // The serial port, the grid, the calendar and the common dialog.
+    {8002, "Invalid port number"},
+    {8005, "Port already open"},
+    {8012, "The device is not open"},
+    {8018, "Operation valid only when the port is open"},
+    {30009, "Invalid Row value"},
+    {30010, "Invalid Col value"},
+    {32755, "Cancel was selected."},
+    {35775, "A date was specified that does not fall within the MinDate and MaxDate properties"},
+};
+
+}  // namespace
+
 std::string ErrorDescription(int number) {
-    switch (number) {
-        case err::InvalidProcedureCall:
-            return "Invalid procedure call or argument";
-        case err::SubscriptOutOfRange:
-            return "Subscript out of range";
-        case err::TypeMismatch:
-            return "Type mismatch";
-        case err::BadFileNameOrNumber:
-            return "Bad file name or number";
-        case err::FileNotFound:
-            return "File not found";
-        case err::BadFileMode:
-            return "Bad file mode";
-        case err::FileAlreadyOpen:
-            return "File already open";
-        case err::FileAlreadyExists:
-            return "File already exists";
-        case err::BadRecordLength:
-            return "Bad record length";
-        case err::InputPastEnd:
-            return "Input past end of file";
-        case err::BadRecordNumber:
-            return "Bad record number";
-        case err::PermissionDenied:
-            return "Permission denied";
-        case err::PathFileAccessError:
-            return "Path/File access error";
-        case err::PathNotFound:
-            return "Path not found";
-        default:
-            return "Application-defined or object-defined error";
-    }
+    for (const auto& entry : kErrorTexts)
+        if (entry.number == number) return entry.text;
+    return "Application-defined or object-defined error";
 }
 
 void Raise(int number, const std::string& where) {

@@ -107,7 +107,7 @@ TEST_F(PrintingTest, CancelledPrinterDialogueIsError32755WhenAskedFor) {
         FAIL() << "a cancel with CancelError must raise";
     } catch (const platform::RuntimeError& error) {
         EXPECT_EQ(error.Number(), 32755);
-        EXPECT_EQ(error.Description(), "Cancel was selected");
+        EXPECT_EQ(error.Description(), "Cancel was selected.");
     }
     platform::QueuedDialogs().QueueCancel();
     EXPECT_FALSE(platform::ShowPrinterDialog(1048600, false));
