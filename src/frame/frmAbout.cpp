@@ -25,8 +25,14 @@ frmAbout::frmAbout() : Form(kName) {
     cmdOK.SetDefault(true);
     cmdOK.SetCancel(true);
     cmdOK.Move(2880, 1920, 1680, 495);
+    On("Form.QueryUnload", [this](EventArgs& e) { Form_QueryUnload(e); });
     On("cmdVisit.Click", [this](EventArgs&) { cmdVisit_Click(); });
     On("cmdOK.Click", [this](EventArgs&) { cmdOK_Click(); });
+}
+
+// Closed by the system menu, the About screen ends the program as every screen does.
+void frmAbout::Form_QueryUnload(EventArgs& e) {
+    if (e.unloadMode == 0) ExitProgram();
 }
 
 void frmAbout::cmdVisit_Click() {

@@ -14,6 +14,7 @@ class frmAbout : public platform::Form {
     platform::CommandButton cmdVisit{*this, "cmdVisit"};
     platform::CommandButton cmdOK{*this, "cmdOK"};
 
+    void Form_QueryUnload(platform::EventArgs& e);
     void cmdVisit_Click();
     void cmdOK_Click();
 };

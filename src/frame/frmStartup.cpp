@@ -140,7 +140,8 @@ void frmStartup::Form_Activate() {
             optProgramRoutine[9].SetEnabled(false);
             optProgramRoutine[3].SetEnabled(false);
         }
-        if (!CallerIDEnabled) optProgramRoutine[5].SetVisible(false);
+        // The call monitor (routine 5) is offered only once caller ID has been seen to work.
+        if (!CallerIDEnabled) optProgramRoutine[4].SetVisible(false);
         optProgramRoutine[0].SetValue(true);
         MenuRoutine = 1;
     } else {

@@ -38,6 +38,23 @@ int SecondsOfDay(double serial) {
     return static_cast<int>(std::lround(frac * 86400.0)) % 86400;
 }
 
+// Whole seconds from the start of day 0, the time rounded to the second as the platform
+// rounds it when it takes a date apart.
+long long TotalSeconds(DateTime date) {
+    const double frac = date.Serial() - std::floor(date.Serial());
+    return static_cast<long long>(date.DayNumber()) * 86400 + std::llround(frac * 86400.0);
+}
+
+long long FloorDivide(long long a, long long b) {
+    const long long q = a / b;
+    return (a % b != 0 && (a < 0) != (b < 0)) ? q - 1 : q;
+}
+
+// The Sunday on or before the date, as a day number.
+long WeekStart(DateTime date) {
+    return static_cast<long>(date.DayNumber()) - (date.Weekday() - 1);
+}
+
 const std::array<const char*, 7> kDayNames = {"Sunday",   "Monday", "Tuesday", "Wednesday",
                                               "Thursday", "Friday", "Saturday"};
 const std::array<const char*, 12> kMonthNames = {"January",   "February", "March",    "April",
@@ -130,6 +147,8 @@ DateTime DateAdd(const std::string& interval, int number, DateTime date) {
         return DateTime(date.Serial() + number);
     if (interval == "ww") return DateTime(date.Serial() + 7.0 * number);
     if (interval == "h") return DateTime(date.Serial() + number / 24.0);
+    if (interval == "n") return DateTime(date.Serial() + number / 1440.0);
+    if (interval == "s") return DateTime(date.Serial() + number / 86400.0);
     if (interval == "m" || interval == "yyyy" || interval == "q") {
         int months = interval == "m" ? number : interval == "q" ? number * 3 : number * 12;
         int total = date.Year() * 12 + (date.Month() - 1) + months;
@@ -143,10 +162,24 @@ DateTime DateAdd(const std::string& interval, int number, DateTime date) {
 
 long DateDiff(const std::string& interval, DateTime first, DateTime second) {
     if (interval == "d" || interval == "y") return second.DayNumber() - first.DayNumber();
-    if (interval == "ww" || interval == "w") return (second.DayNumber() - first.DayNumber()) / 7;
+    // Whole weeks from the first date's weekday on.
+    if (interval == "w") return (second.DayNumber() - first.DayNumber()) / 7;
+    // Calendar weeks: the Sundays after the first date up to the second.
+    if (interval == "ww") return (WeekStart(second) - WeekStart(first)) / 7;
     if (interval == "m")
         return (second.Year() - first.Year()) * 12L + second.Month() - first.Month();
+    if (interval == "q")
+        return (second.Year() - first.Year()) * 4L + (second.Month() - 1) / 3 -
+               (first.Month() - 1) / 3;
     if (interval == "yyyy") return second.Year() - first.Year();
+    // Hours, minutes and seconds count the boundaries crossed, as days do.
+    if (interval == "h")
+        return static_cast<long>(FloorDivide(TotalSeconds(second), 3600) -
+                                 FloorDivide(TotalSeconds(first), 3600));
+    if (interval == "n")
+        return static_cast<long>(FloorDivide(TotalSeconds(second), 60) -
+                                 FloorDivide(TotalSeconds(first), 60));
+    if (interval == "s") return static_cast<long>(TotalSeconds(second) - TotalSeconds(first));
     return 0;
 }
 

@@ -43,9 +43,11 @@ int DaysInMonth(int year, int month);
 int DatePart(const std::string& interval,
              DateTime date);  // "yyyy", "q", "m", "y", "d", "w", "h", "n", "s"
 DateTime DateAdd(const std::string& interval, int number,
-                 DateTime date);  // "yyyy", "m", "d", "w", "ww"
+                 DateTime date);  // "yyyy", "q", "m", "d", "w", "ww", "h", "n", "s"
+// The boundaries crossed from the first date to the second: "ww" counts the Sundays after
+// the first up to the second, "h" and "n" the whole hours and minutes of the clock.
 long DateDiff(const std::string& interval, DateTime first,
-              DateTime second);        // "d", "m", "yyyy", "ww"
+              DateTime second);        // "yyyy", "q", "m", "d", "y", "w", "ww", "h", "n", "s"
 std::string ShortDate(DateTime date);  // M/d/yyyy
 std::string LongTime(DateTime date);   // h:mm:ss AM
 std::string ShortTime(DateTime date);  // hh:mm am/pm

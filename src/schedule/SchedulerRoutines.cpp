@@ -51,7 +51,10 @@ std::string HourLabelShown(int slot) {
 }
 
 int WorkingSlot(int position) {
-    return StartHour + position - 6;
+    const int slot = StartHour + position - 6;
+    // The day has twelve slots and no more, whatever the start hour says.
+    if (slot < 1 || slot > 12) Raise(err::SubscriptOutOfRange, "DaySlots");
+    return slot;
 }
 
 void BuildDayPath(DateTime date, const std::string& team) {

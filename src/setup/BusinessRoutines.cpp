@@ -5,8 +5,8 @@
 
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
-#include "platform/Printer.h"
 #include "platform/Numbers.h"
+#include "platform/Printer.h"
 #include "platform/Records.h"
 #include "platform/RuntimeError.h"
 #include "platform/Ui.h"
@@ -41,11 +41,12 @@ constexpr int kLogoStepMin = 360;
 constexpr int kLogoStepMax = 1800;
 constexpr int kLogoStep = 50;
 
-constexpr int kOverflow = 6;
-
-int ToTwips(double value) {
+// A stored logo size in twips. From 2880 on, however large, it is taken back to the
+// default; a picture cannot be less than nothing wide.
+int StoredLogoSize(double value) {
     const double rounded = std::nearbyint(value);
-    if (rounded < -32768 || rounded > 32767) Raise(kOverflow, kLogoSettingsFile);
+    if (rounded >= kLogoLargest) return kLogoDefault;
+    if (rounded < 0) Raise(err::InvalidPropertyValue, kLogoSettingsFile);
     return static_cast<int>(rounded);
 }
 
@@ -229,11 +230,9 @@ void LoadLogoSettings(frmSetup& form) {
     if (FindFile(kLogoSettingsFile)) {
         OpenForInput(kLogoSettingsFile);
         const int file = MainFileNo;
-        int width = ToTwips(Val(InputString(file)));
-        int height = ToTwips(Val(InputString(file)));
+        const int width = StoredLogoSize(Val(InputString(file)));
+        const int height = StoredLogoSize(Val(InputString(file)));
         CloseAll();
-        if (width >= kLogoLargest) width = kLogoDefault;
-        if (height >= kLogoLargest) height = kLogoDefault;
         form.Image3.SetWidth(width);
         form.Image3.SetHeight(height);
     } else {

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "platform/Files.h"
+#include "platform/Numbers.h"
 #include "platform/RuntimeError.h"
 #include "platform/Ui.h"
 #include "setup/ScreenLinks.h"
@@ -29,8 +30,6 @@ void ResetCharacteristics() {
 }
 
 namespace {
-
-constexpr int kOverflow = 6;
 
 // An element of one of the arrays; a position outside it is the platform's
 // "Subscript out of range", as it would be for any array of the program.
@@ -86,7 +85,8 @@ void LoadCharacteristics(frmSetup& form) {
         OpenForInput(kCharacteristicsFile);
         const int file = MainFileNo;
         while (!Eof(file)) {
-            const int position = MilestoneCount + 1;
+            // The count is a 16-bit number: one milestone past its range is Overflow.
+            const std::int16_t position = CInt(MilestoneCount + 1.0);
             ResizeKeeping(CharName, position);
             ResizeAttributesKeeping(position);
             CharName[static_cast<size_t>(position)] = InputString(file);
@@ -96,7 +96,7 @@ void LoadCharacteristics(frmSetup& form) {
             CharLead[static_cast<size_t>(position)] = InputInt16(file);
             form.cboMilestones.AddItem(CharName[static_cast<size_t>(position)]);
             if (selection) selection->AddItem(CharName[static_cast<size_t>(position)]);
-            ++MilestoneCount;
+            MilestoneCount = position;
         }
         CloseAll();
     }
@@ -193,7 +193,7 @@ void AddMilestone(frmSetup& form) {
             return;
         }
     }
-    ++MilestoneCount;
+    MilestoneCount = CInt(MilestoneCount + 1.0);
     ResizeKeeping(CharName, MilestoneCount);
     list.AddItem(name);
     CharName[static_cast<size_t>(MilestoneCount)] = name;
@@ -283,7 +283,7 @@ void SaveMilestonePositions(frmSetup& form) {
 }
 
 void EnterAttributesTab(frmSetup& form) {
-    MilestoneCount = static_cast<std::int16_t>(form.cboMilestones.ListCount());
+    MilestoneCount = CInt(form.cboMilestones.ListCount());
     if (MilestoneCount < 1) {
         MsgBox("You need to Create Milestones\r\nBefore Assigning Attributes", vbExclamation);
         form.tabSetup.SetTab(frmSetup::kMilestonesTab);
@@ -306,7 +306,7 @@ void ContinueAttributeWalk(frmSetup& form) {
         form.VerifyOnContinue = true;
     }
     if (form.NextMilestone == MilestoneCount) {
-        form.AttributeMilestone = static_cast<std::int16_t>(MilestoneCount + 1);
+        form.AttributeMilestone = CInt(MilestoneCount + 1.0);
         StoreCharacteristics(form);
         MsgBox("The Milestone Characteristics have been Created", vbInformation);
         LoadMilestoneGrid(form);
@@ -314,13 +314,13 @@ void ContinueAttributeWalk(frmSetup& form) {
         return;
     }
     const int shown = form.NextMilestone;
-    form.AttributeMilestone = static_cast<std::int16_t>(shown + 1);
+    form.AttributeMilestone = CInt(shown + 1.0);
     form.ShowIntervalDays(0);
     if (shown > 0) StoreCharacteristics(form);
     if (form.CharacteristicsExist) LoadButtons(form);
 
     // Only an earlier milestone can be waited for. The list is filled with a byte counter.
-    if (shown > 254) Raise(kOverflow, "milestones");
+    if (shown > 254) Raise(err::Overflow, "milestones");
     form.lstDependencies.Clear();
     for (int i = 1; i <= shown; ++i) form.lstDependencies.AddItem(Slot(CharName, i));
 
@@ -338,7 +338,7 @@ void ContinueAttributeWalk(frmSetup& form) {
         form.lblDependency.SetVisible(true);
     }
     DoEvents();
-    form.NextMilestone = static_cast<std::int16_t>(shown + 1);
+    form.NextMilestone = CInt(shown + 1.0);
 }
 
 void ChooseDependency(frmSetup& form) {

@@ -46,10 +46,13 @@ void LoadConstructionSettings(frmSetup& form) {
     }
     CloseAll();
 
-    if (StartHour == 7)
+    if (StartHour == 7) {
         form.ck7.SetValue(true);
-    else
+    } else {
+        // The day starts at 7 or at 8; the option turned on stands for any other hour.
+        StartHour = 8;
         form.ck8.SetValue(true);
+    }
 
     switch (WorkWeek) {
         case 5:

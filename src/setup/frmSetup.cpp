@@ -238,11 +238,10 @@ void frmSetup::LayOut() {
     Place(cmdDelete, kTab, kAssignmentsTab, 4620, 2940, 2895, 495);
     cmdDelete.SetCaption("&Delete the selected Assignment");
     cmdDelete.SetEnabled(false);
-    // The rename that takes an empty name too; kept for the keyboard, not shown.
+    // The rename that takes an empty name too, for a team kept without a name.
     Place(cmdChange[0], kTab, kAssignmentsTab, 4620, 3540, 2895, 495);
-    cmdChange[0].SetCaption("Save &Name");
-    cmdChange[0].SetToolTipText(changeTips[0]);
-    cmdChange[0].SetVisible(false);
+    cmdChange[0].SetCaption("&Rename Selected (Blank Allowed)");
+    cmdChange[0].SetToolTipText("Save the Text in the Box, even Empty, as the Selected Name");
     Place(fraContacts, kTab, kAssignmentsTab, 7680, 540, 2415, 5415);
     fraContacts.SetCaption("Sub-Contractors");
     fraContacts.SetVisible(false);

@@ -1,8 +1,7 @@
 #include "store/BasicDiskRoutines.h"
 
-#include <cmath>
-
 #include "platform/Files.h"
+#include "platform/Numbers.h"
 #include "platform/RuntimeError.h"
 
 using namespace platform;
@@ -40,9 +39,7 @@ std::int16_t CountRecords(const std::string& path, int recordLength) {
     if (!FindFile(path)) return 0;
     const double records = static_cast<double>(FileLen(DataPath(path))) / recordLength;
     // Rounded to the nearest whole record, a half going to the even one.
-    const double rounded = std::nearbyint(records);
-    if (rounded > 32767) Raise(6, path);  // Overflow
-    return static_cast<std::int16_t>(rounded);
+    return CInt(records);
 }
 
 void OpenForInput(const std::string& path) {
@@ -72,6 +69,10 @@ void OpenRandomSecond(const std::string& path, int recordLength) {
 }
 
 void OpenTemporaryFile(int recordLength) {
+    // A scratch file left by a run that stopped half way holds records of its own: every
+    // compaction starts from an empty one.
+    const std::string scratch = DataPath("/TemporaryFile.txt");
+    if (FileExists(scratch)) Kill(scratch);
     TempFileNo = static_cast<std::int16_t>(FreeFile());
     Open(TempFileNo, DataPath("/TemporaryFile.txt"), OpenMode::Random, recordLength);
 }

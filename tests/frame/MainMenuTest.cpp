@@ -50,7 +50,8 @@ TEST_F(MainMenu, WithCustomersButNoProjectsTheProjectRoutinesAreOff) {
     EXPECT_FALSE(menu.optProgramRoutine[9].Enabled());
     EXPECT_FALSE(menu.optProgramRoutine[3].Enabled());
     EXPECT_TRUE(menu.optProgramRoutine[2].Enabled());
-    EXPECT_FALSE(menu.optProgramRoutine[5].Visible());
+    EXPECT_FALSE(menu.optProgramRoutine[4].Visible());  // the call monitor
+    EXPECT_TRUE(menu.optProgramRoutine[5].Visible());
     EXPECT_TRUE(menu.optProgramRoutine[0].Value());
     EXPECT_EQ(MenuRoutine, 1);
     folder.Write("ConstructionProjects/Pj12-1.txt", "");
@@ -101,4 +102,23 @@ TEST_F(MainMenu, OpeningAnAddressWritesTheShortcutFile) {
     folder.Ui().QueueAnswer(vbNo);
     Dispatch([&] { menu.mnuDeluxe.Raise("Click"); });
     EXPECT_EQ(folder.Ui().OpenedUrls().size(), 1u);
+}
+
+TEST_F(MainMenu, TheCallMonitorIsOfferedOnceCallerIDIsOn) {
+    folder.Write("CustomerData.txt", std::string(328, ' '));
+    folder.Write("CallID.txt", "#TRUE#\r\n");
+    auto& menu = Start();
+    EXPECT_TRUE(menu.optProgramRoutine[4].Visible());
+    EXPECT_TRUE(menu.optProgramRoutine[5].Visible());
+}
+
+TEST_F(MainMenu, ClosingTheAboutScreenByItsTitleBarEndsTheProgram) {
+    folder.Write("CustomerData.txt", std::string(328, 'c'));
+    auto& menu = Start();
+    Dispatch([&] { menu.mnuAbout.Raise("Click"); });
+    ASSERT_TRUE(Forms::Get("frmAbout").Visible());
+    Dispatch([] { Forms::Get("frmAbout").UserClose(); });
+    EXPECT_TRUE(ProgramHasEnded());
+    EXPECT_EQ(folder.Read("Backup/CustomerData.txt"), std::string(328, 'c'));
+    EXPECT_TRUE(Forms::Loaded().empty());
 }

@@ -37,3 +37,40 @@ TEST(Numbers, CurrencyOfTheFixedLocale) {
     EXPECT_EQ(FormatCurrency(-12.5), "($12.50)");
     EXPECT_EQ(FormatCurrency(0.004), "$0.00");
 }
+
+TEST(DateTime, DateDiffCountsTheBoundariesCrossed) {
+    const auto at = [](int m, int d, int h = 0, int n = 0, int s = 0) {
+        return DateTime::FromYmdHms(2026, m, d, h, n, s);
+    };
+    const struct {
+        const char* interval;
+        DateTime first;
+        DateTime second;
+        long expected;
+    } cases[] = {
+        {"d", at(6, 20, 23), at(6, 21, 1), 1},  // the time of day does not count
+        {"d", at(6, 21), at(6, 20), -1},
+        {"y", at(1, 1), at(12, 31), 364},
+        {"ww", at(6, 20), at(6, 21), 1},  // Saturday to Sunday: one Sunday passed
+        {"ww", at(6, 21), at(6, 27), 0},  // Sunday to Saturday: the first day is not counted
+        {"ww", at(6, 14), at(6, 28), 2},
+        {"ww", at(6, 28), at(6, 20), -2},  // backwards: the same weeks, negative
+        {"w", at(6, 20), at(6, 21), 0},    // whole weeks
+        {"w", at(6, 1), at(6, 15), 2},
+        {"m", at(1, 31), at(2, 1), 1},
+        {"m", DateTime::FromYmd(2025, 12, 31), at(1, 1), 1},
+        {"q", at(3, 31), at(4, 1), 1},
+        {"yyyy", DateTime::FromYmd(2025, 12, 31), at(1, 1), 1},
+        {"yyyy", at(1, 1), at(12, 31), 0},
+        {"h", at(6, 20, 9, 59), at(6, 20, 10, 1), 1},
+        {"h", at(6, 20, 23, 30), at(6, 21, 0, 10), 1},
+        {"h", at(6, 20, 9, 0), at(6, 20, 9, 59), 0},
+        {"n", at(6, 20, 9, 0, 59), at(6, 20, 9, 1, 0), 1},
+        {"n", at(6, 20, 9, 0), at(6, 20, 8, 0), -60},
+        {"s", at(6, 20, 9, 0, 0), at(6, 20, 9, 1, 1), 61},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(DateDiff(c.interval, c.first, c.second), c.expected)
+            << c.interval << " " << ShortDate(c.first) << " " << FormatDate(c.first, "hh:nn:ss")
+            << " to " << ShortDate(c.second) << " " << FormatDate(c.second, "hh:nn:ss");
+}

@@ -5,6 +5,9 @@
 #include "platform/RuntimeError.h"
 #include "support/TestFolder.h"
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 using namespace platform;
 using testing_support::TestFolder;
 
@@ -153,4 +156,138 @@ TEST(Files, NumbersReadIntoSmallVariablesOverflowPastTheirRange) {
     EXPECT_EQ(ErrorOf([&] { InputByte(n); }), 6);
     EXPECT_EQ(ErrorOf([&] { InputInt16(n); }), 6);
     CloseAll();
+}
+
+TEST(Files, AFileOpenForOutputIsOpenForNothingElse) {
+    TestFolder folder;
+    folder.Write("a.txt", "old\r\n");
+    const int out = FreeFile();
+    Open(out, P("/a.txt"), OpenMode::Output);
+    EXPECT_EQ(ErrorOf([&] { Open(FreeFile(), P("/A.TXT"), OpenMode::Output); }),
+              err::FileAlreadyOpen);
+    EXPECT_EQ(ErrorOf([&] { Open(FreeFile(), P("/a.txt"), OpenMode::Input); }),
+              err::FileAlreadyOpen);
+    EXPECT_EQ(ErrorOf([&] { Open(FreeFile(), P("/a.txt"), OpenMode::Random, 10); }),
+              err::FileAlreadyOpen);
+    EXPECT_EQ(ErrorOf([&] { Open(out, P("/b.txt"), OpenMode::Output); }), err::FileAlreadyOpen);
+    EXPECT_EQ(ErrorOf([&] { Kill(P("/a.txt")); }), err::PathFileAccessError);
+    EXPECT_EQ(ErrorOf([&] { Name(P("/a.txt"), P("/c.txt")); }), err::PathFileAccessError);
+    EXPECT_EQ(ErrorOf([&] { FileCopy(P("/a.txt"), P("/c.txt")); }), err::PermissionDenied);
+    PrintLine(out, "new");
+    // Until the close the file keeps what it had; its length is that before the open.
+    EXPECT_EQ(FileLen(P("/a.txt")), 5);
+    Close(out);
+    EXPECT_EQ(folder.Read("a.txt"), "new\r\n");
+
+    // Reading twice is allowed, but not writing what is being read.
+    const int first = FreeFile();
+    Open(first, P("/a.txt"), OpenMode::Input);
+    const int second = FreeFile();
+    Open(second, P("/a.txt"), OpenMode::Input);
+    EXPECT_EQ(ErrorOf([&] { Open(FreeFile(), P("/a.txt"), OpenMode::Append); }),
+              err::FileAlreadyOpen);
+    CloseAll();
+}
+
+TEST(Files, ANewFileIsThereFromTheOpenAndGoesWithAFailedRun) {
+    TestFolder folder;
+    const int n = FreeFile();
+    Open(n, P("/new.txt"), OpenMode::Output);
+    EXPECT_TRUE(FileExists(P("/NEW.txt")));
+    EXPECT_EQ(FileLen(P("/new.txt")), 0);
+    PrintLine(n, "line");
+    AbandonAll();
+    EXPECT_FALSE(folder.Exists("new.txt"));
+    EXPECT_TRUE(Dir(P("/*.*")).empty());
+}
+
+TEST(Files, NoPathBuiltFromDataLeavesTheProgramFolder) {
+    TestFolder folder;
+    folder.MakeDirs("AuxFiles");
+    const auto outside = folder.Path().parent_path() / "escape";
+    for (const char* name : {"/AuxFiles/../../escape", "\\AuxFiles\\..\\..\\escape", "/../escape",
+                             "/AuxFiles/./../../escape/x"}) {
+        EXPECT_EQ(ErrorOf([&] { MkDir(P(name)); }), err::PathFileAccessError) << name;
+        EXPECT_EQ(ErrorOf([&] { FileExists(P(name)); }), err::PathFileAccessError) << name;
+        EXPECT_EQ(ErrorOf([&] { Open(FreeFile(), P(name), OpenMode::Output); }),
+                  err::PathFileAccessError)
+            << name;
+        EXPECT_EQ(ErrorOf([&] { Kill(P(name)); }), err::PathFileAccessError) << name;
+        EXPECT_EQ(ErrorOf([&] { Dir(P(name) + "/*.*"); }), err::PathFileAccessError) << name;
+    }
+    EXPECT_FALSE(std::filesystem::exists(outside));
+    // Climbing within the folder stays allowed; a NUL byte names no file.
+    MkDir(P("/AuxFiles/../Inside"));
+    EXPECT_TRUE(folder.Exists("Inside"));
+    EXPECT_EQ(ErrorOf([&] { MkDir(P(std::string("/a\0b", 4))); }), err::BadFileNameOrNumber);
+    EXPECT_EQ(OpenFileCount(), 0);
+}
+
+TEST(Files, AReadOnlyFileIsNeitherReplacedNorDeleted) {
+    TestFolder folder;
+    folder.Write("data.txt", "kept\r\n");
+    folder.Write("other.txt", "x");
+    std::filesystem::permissions(
+        folder.Path() / "data.txt",
+        std::filesystem::perms::owner_read | std::filesystem::perms::group_read);
+    EXPECT_EQ(ErrorOf([&] { Open(FreeFile(), P("/data.txt"), OpenMode::Output); }),
+              err::PermissionDenied);
+    EXPECT_EQ(ErrorOf([&] { Open(FreeFile(), P("/data.txt"), OpenMode::Append); }),
+              err::PermissionDenied);
+    EXPECT_EQ(ErrorOf([&] { Open(FreeFile(), P("/data.txt"), OpenMode::Random, 4); }),
+              err::PermissionDenied);
+    EXPECT_EQ(ErrorOf([&] { Kill(P("/data.txt")); }), err::PermissionDenied);
+    EXPECT_EQ(ErrorOf([&] { FileCopy(P("/other.txt"), P("/data.txt")); }), err::PermissionDenied);
+    EXPECT_EQ(folder.Read("data.txt"), "kept\r\n");
+    // Reading it is allowed.
+    const int n = FreeFile();
+    Open(n, P("/data.txt"), OpenMode::Input);
+    EXPECT_EQ(InputString(n), "kept");
+    CloseAll();
+}
+
+TEST(Files, AFileThatMayNotBeReadIsPermissionDenied) {
+    if (::geteuid() == 0) GTEST_SKIP() << "the superuser may read any file";
+    TestFolder folder;
+    folder.Write("secret.txt", "x");
+    std::filesystem::permissions(folder.Path() / "secret.txt", std::filesystem::perms::none);
+    EXPECT_EQ(ErrorOf([&] { Open(FreeFile(), P("/secret.txt"), OpenMode::Input); }),
+              err::PermissionDenied);
+}
+
+TEST(Files, OnlyRegularFilesAreReadOrWritten) {
+    TestFolder folder;
+    folder.MakeDirs("T/1.txt");
+    ASSERT_EQ(::mkfifo((folder.Path() / "T/2.txt").c_str(), 0666), 0);
+    for (const char* name : {"/T/1.txt", "/T/2.txt"}) {
+        for (OpenMode mode :
+             {OpenMode::Input, OpenMode::Output, OpenMode::Append, OpenMode::Random})
+            EXPECT_EQ(ErrorOf([&] { Open(FreeFile(), P(name), mode); }), err::PathFileAccessError)
+                << name;
+        EXPECT_FALSE(FileExists(P(name)));
+        EXPECT_EQ(ErrorOf([&] { FileCopy(P("/T"), P(name)); }), err::FileNotFound);
+    }
+    folder.Write("a.txt", "a");
+    EXPECT_EQ(ErrorOf([&] { FileCopy(P("/a.txt"), P("/T/2.txt")); }), err::PathFileAccessError);
+    EXPECT_EQ(OpenFileCount(), 0);
+}
+
+TEST(Files, FoldersTheProgramMakesAreKnownWithoutListingThemAgain) {
+    TestFolder folder;
+    folder.MakeDirs("2026");
+    const long before = FolderScans();
+    for (int n = 1; n <= 200; ++n) {
+        const std::string team = P("/2026/Team#" + std::to_string(n));
+        if (!FolderExists(team)) MkDir(team);
+    }
+    EXPECT_LE(FolderScans() - before, 2);
+    // A name made by someone else is still seen, in any spelling.
+    folder.MakeDirs("2026/Extra");
+    EXPECT_TRUE(FolderExists(P("/2026/EXTRA")));
+    EXPECT_TRUE(FolderExists(P("/2026/team#200")));
+    RmDir(P("/2026/TEAM#200"));
+    EXPECT_FALSE(FolderExists(P("/2026/team#200")));
+    Name(P("/2026/team#199"), P("/2026/Team#300"));
+    EXPECT_TRUE(FolderExists(P("/2026/TEAM#300")));
+    EXPECT_FALSE(FolderExists(P("/2026/TEAM#199")));
 }

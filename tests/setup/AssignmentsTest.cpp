@@ -134,6 +134,21 @@ TEST_F(AssignmentsTest, ARenameKeepsTheTeamsCalendar) {
     EXPECT_FALSE(form.cmdDelete.Enabled());
 }
 
+TEST_F(AssignmentsTest, TheSecondRenameButtonTakesAnEmptyName) {
+    frmSetup& form = OpenWithTeams({"Crew A", "Crew B"});
+    ASSERT_TRUE(form.cmdChange[0].Visible());
+    ASSERT_TRUE(form.cmdChange[0].Enabled());
+    form.cboAssignments.SetListIndex(0);
+    form.cboAssignments.SetText("");
+    form.cmdChange[4].Click();  // the first one wants a name
+    EXPECT_EQ(Read("Assignto.txt"), "\"Crew A\"\r\n\"Crew B\"\r\n");
+    form.cmdChange[0].Click();
+    EXPECT_EQ(Read("Assignto.txt"), "\"\"\r\n\"Crew B\"\r\n");
+    EXPECT_EQ(TeamNames[1], "");
+    EXPECT_FALSE(form.cmdChange[4].Enabled());
+    EXPECT_FALSE(form.cmdDelete.Enabled());
+}
+
 TEST_F(AssignmentsTest, DeletingTeamTwoOfFourLeavesTheLastFolderBehind) {
     frmSetup& form = OpenWithTeams({"One", "Two", "Three", "Four"});
     for (int n = 1; n <= 4; ++n)
