@@ -163,3 +163,19 @@ TEST(Startup, ACutShortSettingsFileIsTheRunTimeFailure) {
     EXPECT_NE(folder.Ui().Boxes().back().prompt.find("Input past end of file"), std::string::npos);
     EXPECT_FALSE(Forms::Get("frmStartup").Visible());
 }
+
+TEST(Startup, TheTeamFoldersItMakesAreKnownWithoutListingTheirYearAgain) {
+    TestFolder folder(DateTime::FromYmdHms(2026, 6, 15, 9, 0, 0));
+    std::string teams;
+    for (int n = 1; n <= 100; ++n) teams += "\"Crew " + std::to_string(n) + "\"\r\n";
+    WriteRequiredFiles(folder, teams);
+    const long before = FolderScans();
+    Start();
+    EXPECT_FALSE(ProgramHasEnded());
+    EXPECT_TRUE(folder.Exists("2027/Team#100"));
+    EXPECT_TRUE(folder.Exists("Backup/2028/Team#100"));
+    // The purge looks once into each team's own folder; the year folders that receive a
+    // new team folder after another are not listed again each time. Start-up grows with
+    // the teams in a straight line.
+    EXPECT_LT(FolderScans() - before, 100 + 40);
+}

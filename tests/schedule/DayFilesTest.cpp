@@ -7,6 +7,8 @@
 #include "store/SharedState.h"
 #include "support/TestFolder.h"
 
+#include <sys/stat.h>
+
 using namespace platform;
 using testing_support::TestFolder;
 
@@ -158,4 +160,68 @@ TEST_F(DayFiles, HourLabelsSkipNoon) {
     EXPECT_EQ(HourLabelShown(6), "11:00am");
     EXPECT_EQ(HourLabelShown(7), "01:00pm");
     EXPECT_EQ(HourLabelShown(12), "06:00pm");
+}
+
+TEST_F(DayFiles, MalformedDayFilesReadWithoutHarm) {
+    const DateTime feb3 = DateTime::FromYmd(2026, 2, 3);
+    const std::string kFolder = "<a folder>";
+    const std::string kPipe = "<a pipe>";
+    std::string fourteen;
+    for (int i = 1; i <= 14; ++i) fourteen += "\"Slot " + std::to_string(i) + "\"\r\n";
+    const struct {
+        const char* what;
+        std::string bytes;
+        std::string slot1;  // what the first slot reads
+        std::string slot12;
+        int rawError;  // what the blocked days' raw reader meets
+    } cases[] = {
+        {"cut short", "\"Pj1-1-Framing\"\r\n\"Pj1", "Pj1-1-Framing", kFreeSlot, err::InputPastEnd},
+        {"fourteen lines", fourteen, "Slot 1", "Slot 12", 0},
+        {"NUL bytes", std::string("\"Sick\0Day\"\r\n", 12), std::string("Sick\0Day", 8), kFreeSlot,
+         err::InputPastEnd},
+        {"unclosed quote", "\"Vacation", "Vacation", kFreeSlot, err::InputPastEnd},
+        {"nan", "nan\r\n", "nan", kFreeSlot, err::InputPastEnd},
+        {"empty", "", kFreeSlot, kFreeSlot, err::InputPastEnd},
+        {"one long line", std::string(1 << 20, 'x'), std::string(1 << 20, 'x'), kFreeSlot,
+         err::InputPastEnd},
+        {"folder", kFolder, kFreeSlot, kFreeSlot, err::PathFileAccessError},
+        {"pipe", kPipe, kFreeSlot, kFreeSlot, err::PathFileAccessError},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        const auto path = folder.Path() / "2026/Team#1/34.txt";
+        std::filesystem::remove_all(path);
+        if (c.bytes == kFolder)
+            folder.MakeDirs("2026/Team#1/34.txt");
+        else if (c.bytes == kPipe)
+            ASSERT_EQ(::mkfifo(path.c_str(), 0666), 0);
+        else
+            folder.Write("2026/Team#1/34.txt", c.bytes);
+        // Nothing waits on a pipe, and a day that is not a file is a free day.
+        ReadDay(feb3, "1");
+        EXPECT_EQ(DaySlots[1], c.slot1);
+        EXPECT_EQ(DaySlots[12], c.slot12);
+        EXPECT_EQ(OpenFileCount(), 0);
+        int error = 0;
+        try {
+            ReadDayRaw();
+        } catch (const RuntimeError& e) {
+            error = e.Number();
+        }
+        EXPECT_EQ(error, c.rawError);
+        AbandonAll();
+    }
+}
+
+TEST_F(DayFiles, AStartHourOutsideTheDayIsARunTimeFailureNotAStrayRead) {
+    StartHour = 200;
+    std::int16_t conflict = 0;
+    int error = 0;
+    try {
+        CheckDayFree(DateTime::FromYmd(2026, 2, 3), conflict);
+    } catch (const RuntimeError& e) {
+        error = e.Number();
+    }
+    EXPECT_EQ(error, err::SubscriptOutOfRange);
+    EXPECT_EQ(conflict, 0);
 }
