@@ -21,6 +21,8 @@ class DemoForm : public Form {
             log += "after ";
         });
         On("txt.Change", [this](EventArgs&) { log += "change "; });
+        On("cbo.Click",
+           [this](EventArgs&) { log += "cbo" + std::to_string(cbo.ListIndex()) + " "; });
         On("txt.KeyPress", [](EventArgs& e) {
             if (e.keyAscii == ',') e.keyAscii = 0;
         });
@@ -30,6 +32,7 @@ class DemoForm : public Form {
     std::vector<std::unique_ptr<OptionButton>> opt;
     ListBox lst{*this, "lst"};
     TextBox txt{*this, "txt"};
+    ComboBox cbo{*this, "cbo"};
     std::string log;
 };
 
@@ -82,4 +85,28 @@ TEST(Controls, GridFormatStringSetsHeadingsAndAlignment) {
     g.SetRows(13);
     g.SetTextMatrix(12, 1, "x");
     EXPECT_EQ(g.TextMatrix(12, 1), "x");
+}
+
+TEST(Controls, ComboTextThatNoEntryHoldsLeavesNoEntrySelected) {
+    TestFolder folder;
+    auto& f = Screen<DemoForm>();
+    for (const char* team : {"Crew A", "Crew B", "Crew C"}) f.cbo.AddItem(team);
+    f.cbo.SetListIndex(1);
+    // A rename typed over the chosen entry: the list no longer shows it chosen ...
+    f.cbo.SetText("");
+    f.cbo.TypeText("Crew X");
+    EXPECT_EQ(f.cbo.ListIndex(), -1);
+    f.cbo.SetList(1, "Crew X");
+    f.cbo.SetText("");
+    EXPECT_EQ(f.cbo.ListIndex(), -1);
+    // ... so choosing the renamed entry again is a click.
+    f.cbo.SetListIndex(1);
+    EXPECT_EQ(f.log, "cbo1 cbo1 ");
+    // Text that an entry holds, in any case, shows that entry chosen, without a click.
+    f.log.clear();
+    f.cbo.SetText("crew c");
+    EXPECT_EQ(f.cbo.ListIndex(), 2);
+    f.cbo.SetText("Crew");
+    EXPECT_EQ(f.cbo.ListIndex(), -1);
+    EXPECT_EQ(f.log, "");
 }

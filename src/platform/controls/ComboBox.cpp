@@ -8,6 +8,7 @@
 namespace platform {
 
 using text_rules::EditByKey;
+using text_rules::EqualNoCase;
 using text_rules::StartsWithNoCase;
 
 void ComboBox::SetText(const std::string& text) {
@@ -24,8 +25,22 @@ void ComboBox::SetText(const std::string& text) {
     text_ = text;
     selStart_ = static_cast<int>(text_.size());
     selLength_ = 0;
+    SelectByText();
     Notify();
     Raise("Change");
+}
+
+void ComboBox::SelectByText() {
+    // The list shows the entry that the text names, compared as the platform's exact find
+    // does (without regard to case); a text that no entry holds leaves none selected. No
+    // Click is raised: the user has chosen nothing from the list.
+    if (listIndex_ >= 0 && List(listIndex_) == text_) return;
+    listIndex_ = -1;
+    for (int i = 0; i < ListCount(); ++i)
+        if (EqualNoCase(List(i), text_)) {
+            listIndex_ = i;
+            break;
+        }
 }
 
 void ComboBox::SetListIndex(int index) {
@@ -66,6 +81,7 @@ void ComboBox::TypeKey(int keyAscii) {
     text_ = next;
     selStart_ = caret;
     selLength_ = 0;
+    SelectByText();
     Notify();
     Raise("Change");
 }

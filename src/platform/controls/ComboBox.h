@@ -14,7 +14,8 @@ class ComboBox : public ListControl {
     int Style() const { return style_; }
     void SetStyle(int style) { style_ = style; }
     const std::string& Text() const { return text_; }
-    void SetText(const std::string& text);  // raises Change
+    // Raises Change; the entry that holds the text becomes selected, none if no entry does.
+    void SetText(const std::string& text);
     void SetListIndex(int index) override;  // shows the entry and raises Click
     int SelStart() const { return selStart_; }
     void SetSelStart(int value);
@@ -27,6 +28,8 @@ class ComboBox : public ListControl {
     std::map<std::string, std::string> Properties() const override;
 
   private:
+    void SelectByText();
+
     int style_ = DropDownCombo;
     std::string text_;
     int selStart_ = 0;

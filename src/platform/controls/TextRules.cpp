@@ -14,6 +14,10 @@ bool StartsWithNoCase(const std::string& text, const std::string& prefix) {
     return true;
 }
 
+bool EqualNoCase(const std::string& a, const std::string& b) {
+    return a.size() == b.size() && StartsWithNoCase(a, b);
+}
+
 bool LessNoCase(const std::string& a, const std::string& b) {
     return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
         return std::tolower(static_cast<unsigned char>(x)) <

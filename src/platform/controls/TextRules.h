@@ -12,6 +12,7 @@ inline std::string YesNo(bool b) {
 }
 
 bool StartsWithNoCase(const std::string& text, const std::string& prefix);
+bool EqualNoCase(const std::string& a, const std::string& b);
 bool LessNoCase(const std::string& a, const std::string& b);
 
 // What one typed key does to an edit field: the selection is replaced, Backspace deletes,
