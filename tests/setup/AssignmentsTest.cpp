@@ -1,6 +1,10 @@
 #include "SetupFixture.h"
 
+#include <functional>
+#include <memory>
+
 #include "platform/Records.h"
+#include "platform/RuntimeError.h"
 #include "setup/AssignmentRoutines.h"
 #include "store/SharedState.h"
 
@@ -221,6 +225,42 @@ TEST_F(AssignmentsTest, TheTeamListsOfOtherScreensAreFilled) {
     ASSERT_EQ(blocked.teams.ListCount(), 4);
     EXPECT_EQ(blocked.teams.List(2), "Crew C");
     EXPECT_EQ(blocked.teams.List(3), "All Assignments");
+}
+
+TEST_F(AssignmentsTest, AScreenWithoutTheTeamListStopsWithTheRunTimeFailure) {
+    // A misspelt list, then a list of the wrong kind, on a screen the program knows.
+    struct TeamScreen : platform::Form {
+        TeamScreen() : Form("frmBlock") {}
+        platform::ListBox misspelt{*this, "lstAsignto"};
+    };
+    struct TextScreen : platform::Form {
+        TextScreen() : Form("frmBlock") {}
+        platform::TextBox notAList{*this, "lstAssignto"};
+    };
+    const struct {
+        std::function<std::unique_ptr<platform::Form>()> make;
+        int error;
+    } cases[] = {
+        {[] { return std::make_unique<TeamScreen>(); }, 438},
+        {[] { return std::make_unique<TextScreen>(); }, platform::err::TypeMismatch},
+    };
+    for (const auto& c : cases) {
+        platform::Forms::Reset();
+        platform::Forms::RegisterFactory("frmBlock", c.make);
+        try {
+            OpenWithTeams({"Crew A"});
+            ADD_FAILURE() << "no run-time failure";
+        } catch (const platform::RuntimeError& e) {
+            EXPECT_EQ(e.Number(), c.error);
+            EXPECT_NE(e.Where().find("frmBlock.lstAssignto"), std::string::npos) << e.Where();
+        }
+    }
+    // Screens stay registered for the tests that follow: leave a sound stand-in.
+    struct SoundScreen : platform::Form {
+        SoundScreen() : Form("frmBlock") {}
+        platform::ListBox teams{*this, "lstAssignto"};
+    };
+    platform::Forms::RegisterFactory("frmBlock", [] { return std::make_unique<SoundScreen>(); });
 }
 
 TEST_F(AssignmentsTest, WithNoFileTheListsStayEmpty) {
