@@ -138,7 +138,11 @@ void Record::SetBoolean(std::string_view field, bool value) {
 }
 
 Record GetRecord(int fileNo, long recordNo, const RecordLayout& layout) {
-    return Record(layout, GetRecord(fileNo, recordNo));
+    // A file opened with records shorter than the layout cannot hold it: the platform refuses
+    // the read rather than fill the rest with the next record's bytes or zeros.
+    std::string bytes = GetRecord(fileNo, recordNo);
+    if (bytes.size() < layout.Length()) Raise(err::BadRecordLength, std::string(layout.Name()));
+    return Record(layout, std::move(bytes));
 }
 
 void PutRecord(int fileNo, long recordNo, const Record& record) {

@@ -130,6 +130,17 @@ TEST(RecordLayout, RecordsRoundTripThroughARandomAccessFileAndShortReadsAreZeroF
     Close(n);
     EXPECT_EQ(folder.Read("sample.dat"), first.Bytes() + second.Bytes());
 
+    // Records of the file shorter than the layout: the read is refused, as the platform does.
+    n = FreeFile();
+    Open(n, AppFolder() + "/sample.dat", OpenMode::Random, 4);
+    EXPECT_THROW(
+        try { GetRecord(n, 1, kSample); } catch (const RuntimeError& e) {
+            EXPECT_EQ(e.Number(), err::BadRecordLength);
+            throw;
+        },
+        RuntimeError);
+    Close(n);
+
     Record cut(kSample, "Thr");
     EXPECT_EQ(cut.Text("Name"), std::string("Thr\0\0\0", 6));
     EXPECT_EQ(cut.Int32("Total"), 0);
