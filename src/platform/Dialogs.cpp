@@ -63,6 +63,7 @@ bool CommonDialog::ShowPrinter() {
     if (!answer.accepted) return Cancelled(*this, "CommonDialog.ShowPrinter");
     Copies = answer.copies < 1 ? 1 : answer.copies;
     Printer().SetCopies(Copies);
+    Printer().SetOutputFile(answer.file);
     return true;
 }
 

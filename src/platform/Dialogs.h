@@ -43,6 +43,7 @@ struct FileAnswer {
 struct PrinterAnswer {
     bool accepted = false;
     int copies = 1;
+    std::string file;  // a PDF file to print into, empty for the printer
 };
 
 // The part that shows the dialogues: windows on the desktop, queued answers headless.

@@ -52,7 +52,8 @@ std::vector<std::string> DescribeDocument(const PrintedDocument& document) {
     std::vector<std::string> lines;
     lines.push_back("document: " + std::to_string(document.pages.size()) + " page(s), " +
                     std::to_string(document.copies) + " copies, " +
-                    (document.colorMode == vbPRCMColor ? "colour" : "monochrome"));
+                    (document.colorMode == vbPRCMColor ? "colour" : "monochrome") +
+                    (document.file.empty() ? std::string() : ", to file " + document.file));
     for (const PrintedPage& page : document.pages) {
         lines.push_back("page " + std::to_string(page.number) + " " +
                         (page.orientation == vbPRORPortrait ? "portrait" : "landscape") + " " +
@@ -249,6 +250,7 @@ void PrinterObject::EndDoc() {
     }
     PrintedDocument document = std::move(document_);
     document.copies = copies_;
+    document.file = outputFile_;
     document.colorMode = colorMode_;
     open_ = false;
     document_ = PrintedDocument{};

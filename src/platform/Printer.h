@@ -59,6 +59,7 @@ struct PrintedPage {
 
 struct PrintedDocument {
     int copies = 1;
+    std::string file;  // the PDF file chosen in the printer dialogue; empty for the printer
     int colorMode = vbPRCMColor;
     std::vector<PrintedPage> pages;
 };
@@ -131,6 +132,9 @@ class PrinterObject {
     int Page() const { return page_; }  // number of the page being drawn, from 1
     int Copies() const { return copies_; }
     void SetCopies(int copies);
+    // A PDF file that the documents go to instead of the printer; empty for the printer.
+    const std::string& OutputFile() const { return outputFile_; }
+    void SetOutputFile(const std::string& path) { outputFile_ = path; }
 
     double TextWidth(std::string_view text) const;
     double TextHeight(std::string_view text = "X") const;  // lines of the text times a line
@@ -174,6 +178,7 @@ class PrinterObject {
     double currentY_ = 0;
     int page_ = 1;
     int copies_ = 1;
+    std::string outputFile_;
     bool open_ = false;
     PrintedDocument document_;
 };

@@ -6,6 +6,7 @@
 
 #include "frame/SubMain.h"
 #include "platform/Controls.h"
+#include "platform/Dialogs.h"
 #include "platform/Files.h"
 #include "platform/Form.h"
 #include "platform/RuntimeError.h"
@@ -42,9 +43,15 @@ std::string Unescape(const std::string& text) {
     return out;
 }
 
+// Paths in the program folder show from the folder on, as the scripts name them: the folder
+// is a new temporary one on every run.
 std::string Escape(const std::string& text) {
+    std::string plain = text;
+    const std::string& folder = AppFolder();
+    for (size_t at; !folder.empty() && (at = plain.find(folder)) != std::string::npos;)
+        plain.erase(at, folder.size());
     std::string out;
-    for (char c : text) {
+    for (char c : plain) {
         if (c == '\r')
             out += "\\r";
         else if (c == '\n')
@@ -90,6 +97,44 @@ int Answer(const std::string& word) {
 
 void Require(bool ok, const std::string& what) {
     if (!ok) throw ScriptError(what);
+}
+
+// Actions that do not need the program running: they prepare or inspect the folder, or set
+// the clock for the next start.
+bool WorksWhileEnded(const std::string& verb) {
+    static const char* const kVerbs[] = {"start",  "clock",       "file",   "exists",
+                                         "dir",    "remove",      "write",  "mkdir",
+                                         "dialog", "choose-file", "answer", "other-instance"};
+    for (const char* v : kVerbs)
+        if (verb == v) return true;
+    return false;
+}
+
+// "dialog color 255": the answer the next common dialogue takes.
+void QueueDialogAnswer(const std::string& kind, const std::string& value) {
+    HeadlessDialogs& dialogs = QueuedDialogs();
+    if (kind == "color") {
+        std::int32_t color = 0;
+        try {
+            color = value.rfind("&H", 0) == 0 ? std::stoi(value.substr(2), nullptr, 16)
+                                              : std::stoi(value);
+        } catch (const std::exception&) {
+            throw ScriptError("not a colour: " + value);
+        }
+        dialogs.QueueColor(color);
+    } else if (kind == "font") {
+        Require(!value.empty(), "dialog font needs a font name");
+        dialogs.QueueFont(value);
+    } else if (kind == "printer") {
+        dialogs.QueuePrinter(value.empty() ? 0 : std::stoi(value));
+    } else if (kind == "pdf") {
+        Require(!value.empty(), "dialog pdf needs a /path");
+        dialogs.QueuePdfFile(AppFolder() + value);
+    } else if (kind == "cancel") {
+        dialogs.QueueCancel();
+    } else {
+        throw ScriptError("unknown dialog " + kind);
+    }
 }
 
 void Click(Control& c) {
@@ -139,6 +184,7 @@ ScriptDriver::ScriptDriver(std::string appFolder, std::ostream& out)
     SetBackend(&backend_);
     ClearProgramEnded();
     Forms::Reset();
+    QueuedDialogs().ClearQueue();
     backend_.SetModalDriver([this](Form& form) { DriveModal(form); });
 }
 
@@ -175,10 +221,8 @@ void ScriptDriver::Next() {
     const auto first = line.find_first_not_of(" \t");
     if (first == std::string::npos || line[first] == '#') return;
     out_ << "> " << line.substr(first) << "\n";
-    if (ProgramHasEnded() && line.compare(first, 5, "start") != 0 &&
-        line.compare(first, 4, "file") != 0 && line.compare(first, 6, "exists") != 0 &&
-        line.compare(first, 3, "dir") != 0 && line.compare(first, 6, "remove") != 0 &&
-        line.compare(first, 5, "write") != 0) {
+    const std::string verb = line.substr(first, line.find_first_of(" \t", first) - first);
+    if (ProgramHasEnded() && !WorksWhileEnded(verb)) {
         out_ << "! the program has ended\n";
         ++failures_;
         return;
@@ -200,13 +244,7 @@ void ScriptDriver::DriveModal(Form& form) {
 
 void ScriptDriver::Flush() {
     const auto& log = backend_.Transcript();
-    for (; logged_ < log.size(); ++logged_) {
-        // Paths in the program folder show from the folder on, as the scripts name them.
-        std::string line = log[logged_];
-        for (size_t at; !appFolder_.empty() && (at = line.find(appFolder_)) != std::string::npos;)
-            line.erase(at, appFolder_.size());
-        out_ << "  " << Escape(line) << "\n";
-    }
+    for (; logged_ < log.size(); ++logged_) out_ << "  " << Escape(log[logged_]) << "\n";
 }
 
 void ScriptDriver::Execute(const std::string& line) {
@@ -245,6 +283,8 @@ void ScriptDriver::Execute(const std::string& line) {
             QueuedDialogs().QueueCancel();
         else
             QueuedDialogs().QueueFile(AppFolder() + rest);
+    } else if (verb == "dialog") {
+        QueueDialogAnswer(target, tail);
     } else if (verb == "click") {
         Control& c = FindControl(target, form);
         user([&] { Click(c); });
@@ -293,6 +333,16 @@ void ScriptDriver::Execute(const std::string& line) {
     } else if (verb == "choose") {
         Control& c = FindControl(target, form);
         user([&] { Choose(c, tail); });
+    } else if (verb == "select") {
+        Control& c = FindControl(target, form);
+        Require(c.Type() == ControlType::Grid, c.Key() + " is not a grid");
+        int row = 0, col = 0;
+        std::istringstream(tail) >> row >> col;
+        auto& grid = static_cast<Grid&>(c);
+        Require(row >= grid.FixedRows() && row < grid.Rows() && col >= grid.FixedCols() &&
+                    col < grid.Cols(),
+                "no such cell");
+        user([&] { grid.UserExtendSelection(row, col); });
     } else if (verb == "cell" || verb == "dblcell" || verb == "rightcell") {
         Control& c = FindControl(target, form);
         Require(c.Type() == ControlType::Grid, c.Key() + " is not a grid");

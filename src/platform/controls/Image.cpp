@@ -15,6 +15,8 @@ void Image::SetStretch(bool value) {
 std::map<std::string, std::string> Image::Properties() const {
     auto p = Control::Properties();
     p["Picture"] = picture_;
+    p["Width"] = std::to_string(Width());
+    p["Height"] = std::to_string(Height());
     return p;
 }
 

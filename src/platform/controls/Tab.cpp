@@ -6,6 +6,7 @@
 namespace platform {
 
 using text_rules::kEmpty;
+using text_rules::YesNo;
 
 void Tab::SetTabs(int count) {
     captions_.resize(static_cast<size_t>(count));
@@ -59,6 +60,9 @@ std::map<std::string, std::string> Tab::Properties() const {
     auto p = Control::Properties();
     p["Tab"] = std::to_string(tab_);
     p["TabCaption"] = TabCaption(tab_);
+    std::string enabled;
+    for (int t = 0; t < Tabs(); ++t) enabled += (t ? " " : "") + YesNo(TabEnabled(t));
+    p["TabEnabled"] = enabled;
     return p;
 }
 

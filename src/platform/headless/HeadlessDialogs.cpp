@@ -72,14 +72,18 @@ FileAnswer HeadlessDialogs::ChooseSaveFile(const std::string& title, const std::
 
 PrinterAnswer HeadlessDialogs::ChoosePrinter(int flags, int copies) {
     Answer queued;
-    PrinterAnswer result{true, copies};
+    PrinterAnswer result{true, copies, {}};
     if (Next(queued)) {
         result.accepted = queued.accepted;
         if (queued.copies > 0) result.copies = queued.copies;
+        result.file = queued.pdfFile;
     }
-    Record("printer -> " +
-           (result.accepted ? std::to_string(result.copies) + " copies" : std::string("cancel")));
-    if (!result.accepted) result.copies = copies;
+    std::string shown = "cancel";
+    if (result.accepted)
+        shown = std::to_string(result.copies) + " copies" +
+                (result.file.empty() ? std::string() : " to " + result.file);
+    Record("printer -> " + shown);
+    if (!result.accepted) result = PrinterAnswer{false, copies, {}};
     return result;
 }
 
@@ -105,6 +109,12 @@ void HeadlessDialogs::QueueFile(const std::string& path) {
 void HeadlessDialogs::QueuePrinter(int copies) {
     Answer answer;
     answer.copies = copies;
+    answers_.push_back(answer);
+}
+
+void HeadlessDialogs::QueuePdfFile(const std::string& path) {
+    Answer answer;
+    answer.pdfFile = path;
     answers_.push_back(answer);
 }
 

@@ -28,6 +28,8 @@ class HeadlessDialogs : public DialogBackend {
     void QueueFile(const std::string& path);
     // OK in the printer dialogue; copies 0 keeps the number offered.
     void QueuePrinter(int copies = 0);
+    // The printer dialogue prints into this PDF file.
+    void QueuePdfFile(const std::string& path);
     // The next dialogue, of whatever kind, is cancelled.
     void QueueCancel();
     void ClearQueue() { answers_.clear(); }
@@ -44,6 +46,7 @@ class HeadlessDialogs : public DialogBackend {
         std::int32_t color = 0;
         std::string text;  // font name or file path
         int copies = 0;
+        std::string pdfFile;
     };
     bool Next(Answer& answer);
     FileAnswer ChooseFile(const std::string& kind);  // "open" or "save"

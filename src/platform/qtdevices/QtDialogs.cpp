@@ -95,8 +95,9 @@ PrinterAnswer QtDialogs::ChoosePrinter(int flags, int copies) {
     dialog.setOption(QAbstractPrintDialog::PrintToFile, true);
     dialog.setOption(QAbstractPrintDialog::PrintPageRange, (flags & cdlPDNoPageNums) == 0);
     dialog.setOption(QAbstractPrintDialog::PrintCollateCopies, true);
-    if (dialog.exec() != QDialog::Accepted) return {false, copies};
-    return {true, printer.copyCount() < 1 ? 1 : printer.copyCount()};
+    // A PDF file chosen here is the Qt printer's own output file; the document goes there.
+    if (dialog.exec() != QDialog::Accepted) return {false, copies, {}};
+    return {true, printer.copyCount() < 1 ? 1 : printer.copyCount(), {}};
 }
 
 }  // namespace platform
