@@ -5,6 +5,11 @@
 #include "control/ProjectListRoutines.h"
 #include "control/ProjectTables.h"
 #include "control/frmProjectControl.h"
+#include "customers/CustomerDiskRoutines.h"
+#include "customers/CustomerHandOff.h"
+#include "customers/CustomerRoutines.h"
+#include "customers/frmCustomer.h"
+#include "customers/frmCustomerSelection.h"
 #include "frame/Navigation.h"
 #include "frame/frmAbout.h"
 #include "frame/frmStartup.h"
@@ -38,8 +43,6 @@ void Register() {
     Forms::RegisterFactory(T::kName, [] { return std::make_unique<T>(); });
 }
 
-constexpr size_t kAccountNoLength = 20;
-
 void LoadIfKnown(const char* screen) {
     if (Forms::Known(screen)) Forms::Get(screen).Load();
 }
@@ -55,6 +58,8 @@ void RegisterScreens() {
     Register<frmAdmin>();
     Register<frmProjectControl>();
     Register<frmMain>();
+    Register<frmCustomer>();
+    Register<frmCustomerSelection>();
     ExitProgramHook = [] { ExitProgram(); };
     ShowMainMenuHook = [] { Forms::Get(frmStartup::kName).Show(); };
     OpenManualHook = [] { OpenAddress(kManualAddress); };
@@ -77,6 +82,8 @@ void ResetProgramState() {
     ResetCharacteristics();
     ResetProjectTables();
     ResetCreationState();
+    ResetCustomerBuffers();
+    HandedOffAccount = AccountHandOff{};
 }
 
 void SubMain() {
@@ -102,22 +109,10 @@ void BuildFolderTree() {
           std::string("/Backup"), std::string("/Backup/NIActiveAccounts"),
           std::string("/Backup/NIActiveAccountsBACK"), std::string("/AuxFiles")})
         MakeFolder(folder);
-    // CountRecords tests for the file itself: no file counts no records.
-    const int count = CountRecords("/CustomerData.txt", kCustomerRecordLength);
-    if (count >= 1) {
-        OpenCustomerData();
-        for (int record = 1; record <= count; ++record) {
-            // The account number is the first field of the customer record.
-            RecordReader reader(GetRecord(MainFileNo, record));
-            const std::string account = Trim(reader.Text(kAccountNoLength));
-            if (!FindFile("/Auxfiles/" + account)) {
-                MakeFolder("/AuxFiles/" + account);
-                for (int i = 0; i <= 5; ++i)
-                    MakeFolder("/AuxFiles/" + account + "/AuxFile" + std::to_string(i));
-            }
-        }
-        CloseAll();
-    }
+    // Every account has its folders of auxiliary data; a new one gets them here at the latest.
+    ForEachCustomer(CountCustomers(), [](std::int32_t, const Record& record) {
+        MakeAuxFolders(record.Trimmed("AccountNo"));
+    });
     BuildProgramFolders();
     BuildDocumentFolders();
 }

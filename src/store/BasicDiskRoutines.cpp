@@ -1,5 +1,8 @@
 #include "store/BasicDiskRoutines.h"
 
+#include <cmath>
+
+#include "customers/CustomerRecords.h"
 #include "platform/Files.h"
 #include "platform/Numbers.h"
 #include "platform/RuntimeError.h"
@@ -78,16 +81,27 @@ void OpenTemporaryFile(int recordLength) {
 }
 
 void OpenCustomerData() {
-    OpenRandom("/CustomerData.txt", kCustomerRecordLength);
+    OpenRandom(customers::kCustomerFile, static_cast<int>(customers::kCustomerRecord.Length()));
 }
 void OpenContractInfo() {
-    OpenRandomSecond("/ContractInfo.txt", kContractRecordLength);
+    OpenRandomSecond(customers::kContractFile,
+                     static_cast<int>(customers::kContractRecord.Length()));
 }
 void OpenCycleInfo() {
-    OpenRandomSecond("/CycleInfo.txt", kCycleRecordLength);
+    OpenRandomSecond(customers::kCycleFile, static_cast<int>(customers::kCycleRecord.Length()));
 }
 void CloseAllFiles() {
     CloseAll();
+}
+
+bool NameStaysInFolder(const std::string& name) {
+    return name != "." && name != ".." &&
+           name.find_first_of(std::string("/\\\0", 3)) == std::string::npos;
+}
+
+const std::string& CheckedName(const std::string& name) {
+    if (!NameStaysInFolder(name)) Raise(err::PathFileAccessError, name);
+    return name;
 }
 
 void MakeFolder(const std::string& path) {

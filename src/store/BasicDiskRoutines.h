@@ -13,9 +13,6 @@ extern std::int16_t SecondFileNo;
 extern std::int16_t TempFileNo;
 
 // Record lengths of the record files.
-constexpr int kCustomerRecordLength = 328;
-constexpr int kContractRecordLength = 386;
-constexpr int kCycleRecordLength = 69;
 constexpr int kTelCallRecordLength = 35;
 constexpr int kInventoryRecordLength = 124;
 constexpr int kServiceRecordLength = 72;
@@ -37,6 +34,13 @@ void OpenCustomerData();
 void OpenContractInfo();
 void OpenCycleInfo();
 void CloseAllFiles();
+
+// A file or folder name taken from data (an account number) for a path below the program
+// folder: returned as it is, or refused with the run-time failure "Path/File access error"
+// when it could lead out of its folder.
+const std::string& CheckedName(const std::string& name);
+// True when the name is one name within its folder: no separator, not "." or "..".
+bool NameStaysInFolder(const std::string& name);
 
 void MakeFolder(const std::string& path);
 void DeleteFile(const std::string& path);  // closes every open file first; wild cards allowed

@@ -1,0 +1,199 @@
+#include "customers/CustomerDiskRoutines.h"
+
+#include <algorithm>
+
+#include "platform/Files.h"
+#include "platform/Ui.h"
+#include "store/BasicDiskRoutines.h"
+
+using namespace platform;
+using customers::kContractRecord;
+using customers::kCustomerRecord;
+using customers::kCycleRecord;
+
+platform::Record CustomerRecord{kCustomerRecord};
+platform::Record ContractRecord{kContractRecord};
+platform::Record CycleRecord{kCycleRecord};
+
+namespace {
+
+int LengthOf(const RecordLayout& layout) {
+    return static_cast<int>(layout.Length());
+}
+
+// Record recordNo of an open file over the buffer, as far as the file holds it: a record
+// wholly past the end leaves the buffer as it stands.
+void ReadOver(Record& buffer, int fileNo, std::int32_t recordNo) {
+    const std::int64_t length = static_cast<std::int64_t>(buffer.Layout().Length());
+    const std::int64_t present = Lof(fileNo) - (recordNo - 1) * length;
+    if (present <= 0) return;
+    std::string bytes = GetRecord(fileNo, recordNo);
+    if (present < length) {
+        const auto kept = static_cast<size_t>(present);
+        bytes.replace(kept, std::string::npos, buffer.Bytes(), kept, std::string::npos);
+    }
+    buffer = Record(buffer.Layout(), std::move(bytes));
+}
+
+// Records in a billing file, a partial last one included, so that a compaction keeps all of
+// what the billing program left there.
+std::int32_t RecordsHeld(const std::string& path, const RecordLayout& layout) {
+    if (!FindFile(path)) return 0;
+    const std::int64_t length = static_cast<std::int64_t>(layout.Length());
+    return static_cast<std::int32_t>((FileLen(DataPath(path)) + length - 1) / length);
+}
+
+// Copies records 1 to count of path, all but recordNo, to consecutive numbers of the scratch
+// file, then puts the copy in the place of the file (and of its Backup copy).
+void CompactWithout(const std::string& path, const std::string& scratch, const RecordLayout& layout,
+                    std::int32_t count, std::int32_t recordNo) {
+    const int length = LengthOf(layout);
+    OpenRandom(scratch, length);
+    const int copy = MainFileNo;
+    OpenRandom(path, length);
+    const int source = MainFileNo;
+    std::int32_t next = 0;
+    for (std::int32_t r = 1; r <= count; ++r)
+        if (r != recordNo) PutRecord(copy, ++next, std::string_view(GetRecord(source, r)));
+    CloseAll();
+    DeleteEverywhere(path);
+    Name(DataPath(scratch), DataPath(path));
+}
+
+}  // namespace
+
+std::int32_t CountCustomers() {
+    return CountRecords(customers::kCustomerFile, LengthOf(kCustomerRecord));
+}
+
+void ReadCustomerRecord(std::int32_t recordNo) {
+    OpenCustomerData();
+    CustomerRecord = GetRecord(MainFileNo, recordNo, kCustomerRecord);
+    CloseAll();
+}
+
+void WriteCustomerRecord(std::int32_t recordNo) {
+    OpenCustomerData();
+    PutRecord(MainFileNo, recordNo, CustomerRecord);
+    CloseAll();
+}
+
+void ForEachCustomer(std::int32_t count,
+                     const std::function<void(std::int32_t, const platform::Record&)>& visit) {
+    // Looking must not make an empty account book where there is none.
+    if (count < 1 || !FindFile(customers::kCustomerFile)) return;
+    OpenCustomerData();
+    const int file = MainFileNo;
+    for (std::int32_t r = 1; r <= count; ++r) visit(r, GetRecord(file, r, kCustomerRecord));
+    CloseAll();
+}
+
+void ResetBillingRecords() {
+    const DateTime today = Today();
+    Record& c = ContractRecord;
+    c.SetText("ContractName", "None Selected");
+    c.SetText("ContractCode", "None");
+    c.SetCurrency("ContractAmount", 0);
+    c.SetText("ContractDay", WeekdayName(today.Weekday()));
+    c.SetText("ContractLine", "None Selected");
+    c.SetDate("ContractStart", today);
+    c.SetDate("ContractDate2", today);
+    c.SetInt16("ContractValue1", 0);
+    c.SetInt16("ContractFlag1", -1);
+    c.SetInt16("ContractValue2", 0);
+    c.SetText("ContractKind", "None");
+    for (const char* text :
+         {"ContractText1", "ContractText2", "ContractText4", "ContractText5", "ContractText6",
+          "ContractText7", "ContractText8", "ContractText9", "ContractText10"})
+        c.SetText(text, "");
+    c.SetInt16("ContractValue3", 0);
+
+    Record& y = CycleRecord;
+    y.SetText("CycleName", "None Selected");
+    y.SetCurrency("CycleAmount", 0);
+    y.SetInt16("CycleValue1", 0);
+    y.SetText("CycleText", "");
+    y.SetInt16("CycleValue2", 0);
+    y.SetInt16("CycleFlag", -1);
+}
+
+namespace {
+
+bool CustomerFileMissing(const std::string& whatCannotBeRebuilt) {
+    if (FindFile(customers::kCustomerFile)) return false;
+    MsgBox("Your Customer Information File is missing\r\n" + whatCannotBeRebuilt +
+               "\r\nThis is normal when creating your 1st Customer",
+           vbOKOnly + vbInformation, "No Customer File Found");
+    return true;
+}
+
+}  // namespace
+
+void BuildContractInfo(std::int32_t firstRecord) {
+    if (CustomerFileMissing("The Contract File can not be rebuilt")) return;
+    DeleteEverywhere(customers::kContractFile);
+    const std::int32_t count = CountCustomers();
+    OpenContractInfo();
+    const int file = SecondFileNo;
+    // Record numbers start at 1: an empty account book writes nothing.
+    for (std::int32_t r = count; r >= std::max(firstRecord, 1); --r)
+        PutRecord(file, r, ContractRecord);
+    CloseAll();
+}
+
+void BuildCycleInfo(std::int32_t recordCount) {
+    if (CustomerFileMissing("The Cycle File can not be rebuilt")) return;
+    DeleteEverywhere(customers::kCycleFile);
+    MsgBox("Your Billing Information File will be Built with Default Values",
+           vbOKOnly + vbInformation, "Building Billing Info");
+    OpenCycleInfo();
+    const int file = SecondFileNo;
+    for (std::int32_t r = recordCount; r >= 1; --r) PutRecord(file, r, CycleRecord);
+    CloseAll();
+}
+
+void ReadContractRecord(std::int32_t recordNo) {
+    OpenContractInfo();
+    ReadOver(ContractRecord, SecondFileNo, recordNo);
+    CloseAll();
+}
+
+void ReadCycleRecord(std::int32_t recordNo) {
+    OpenCycleInfo();
+    ReadOver(CycleRecord, SecondFileNo, recordNo);
+    CloseAll();
+}
+
+void WriteContractRecord(std::int32_t recordNo) {
+    OpenContractInfo();
+    PutRecord(SecondFileNo, recordNo, ContractRecord);
+    CloseAll();
+}
+
+void WriteCycleRecord(std::int32_t recordNo) {
+    OpenCycleInfo();
+    PutRecord(SecondFileNo, recordNo, CycleRecord);
+    CloseAll();
+}
+
+void DeleteCustomerRecords(std::int32_t recordNo, std::int32_t recordCount,
+                           const std::string& accountNo) {
+    DeleteFile("\\CUSTOMER.TMP");
+    DeleteEverywhere("/NIActiveAccounts/" + CheckedName(accountNo) + ".txt");
+    CompactWithout("\\CustomerData.txt", "\\CUSTOMER.TMP", kCustomerRecord, recordCount, recordNo);
+    // A billing file longer than the account book keeps its surplus records.
+    DeleteFile("\\Temp.txt");
+    CompactWithout("\\CycleInfo.txt", "\\Temp.txt", kCycleRecord,
+                   std::max(recordCount, RecordsHeld(customers::kCycleFile, kCycleRecord)),
+                   recordNo);
+    DeleteFile("\\Temp.txt");
+    CompactWithout("\\ContractInfo.txt", "\\Temp.txt", kContractRecord,
+                   std::max(recordCount, RecordsHeld(customers::kContractFile, kContractRecord)),
+                   recordNo);
+}
+
+void ResetCustomerBuffers() {
+    CustomerRecord = Record(kCustomerRecord);
+    ContractRecord = Record(kContractRecord);
+    CycleRecord = Record(kCycleRecord);
+}
