@@ -1,5 +1,6 @@
 #include "app/script/ScriptDriver.h"
 
+#include <cctype>
 #include <fstream>
 #include <ostream>
 #include <sstream>
@@ -34,6 +35,10 @@ std::string Unescape(const std::string& text) {
                 out += '\t';
             else if (c == '\\')
                 out += '\\';
+            else if (c == 'x' && i + 2 < text.size() &&
+                     std::isxdigit(static_cast<unsigned char>(text[i + 1])) &&
+                     std::isxdigit(static_cast<unsigned char>(text[i + 2])))
+                out += static_cast<char>(std::stoi(text.substr(i + 1, 2), nullptr, 16)), i += 2;
             else
                 out += '\\', out += c;
         } else {
@@ -41,6 +46,13 @@ std::string Unescape(const std::string& text) {
         }
     }
     return out;
+}
+
+// A byte that is no printable ASCII character, as \xHH: binary record files and Windows-1252
+// letters stay readable in a transcript.
+std::string Hex(unsigned char byte) {
+    const char* digits = "0123456789ABCDEF";
+    return std::string("\\x") + digits[byte >> 4] + digits[byte & 15];
 }
 
 // Paths in the program folder show from the folder on, as the scripts name them: the folder
@@ -58,6 +70,8 @@ std::string Escape(const std::string& text) {
             out += "\\n";
         else if (c == '\t')
             out += "\\t";
+        else if (static_cast<unsigned char>(c) < 0x20 || static_cast<unsigned char>(c) >= 0x7F)
+            out += Hex(static_cast<unsigned char>(c));
         else
             out += c;
     }
