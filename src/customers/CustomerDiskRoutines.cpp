@@ -47,14 +47,17 @@ std::int32_t RecordsHeld(const std::string& path, const RecordLayout& layout) {
 // file, then puts the copy in the place of the file (and of its Backup copy).
 void CompactWithout(const std::string& path, const std::string& scratch, const RecordLayout& layout,
                     std::int32_t count, std::int32_t recordNo) {
-    const int length = LengthOf(layout);
-    OpenRandom(scratch, length);
+    const size_t length = layout.Length();
+    OpenRandom(scratch, LengthOf(layout));
     const int copy = MainFileNo;
-    OpenRandom(path, length);
+    OpenRandom(path, LengthOf(layout));
     const int source = MainFileNo;
-    std::int32_t next = 0;
-    for (std::int32_t r = 1; r <= count; ++r)
-        if (r != recordNo) PutRecord(copy, ++next, std::string_view(GetRecord(source, r)));
+    std::string records = GetRecords(source, 1, count);
+    // A record past the end of the file is copied as the platform reads it: zero bytes.
+    records.resize(static_cast<size_t>(count) * length, '\0');
+    if (recordNo >= 1 && recordNo <= count)
+        records.erase(static_cast<size_t>(recordNo - 1) * length, length);
+    if (!records.empty()) PutRecords(copy, 1, records);
     CloseAll();
     DeleteEverywhere(path);
     Name(DataPath(scratch), DataPath(path));
@@ -83,9 +86,13 @@ void ForEachCustomer(std::int32_t count,
     // Looking must not make an empty account book where there is none.
     if (count < 1 || !FindFile(customers::kCustomerFile)) return;
     OpenCustomerData();
-    const int file = MainFileNo;
-    for (std::int32_t r = 1; r <= count; ++r) visit(r, GetRecord(file, r, kCustomerRecord));
+    const std::string records = GetRecords(MainFileNo, 1, count);
     CloseAll();
+    const size_t length = kCustomerRecord.Length();
+    for (std::int32_t r = 1; r <= count; ++r) {
+        const size_t at = static_cast<size_t>(r - 1) * length;
+        visit(r, Record(kCustomerRecord, at < records.size() ? records.substr(at, length) : ""));
+    }
 }
 
 void ResetBillingRecords() {
@@ -152,13 +159,16 @@ void BuildCycleInfo(std::int32_t recordCount) {
     CloseAll();
 }
 
+// Reading makes no file: a missing billing file is rebuilt when the screen next opens.
 void ReadContractRecord(std::int32_t recordNo) {
+    if (!FindFile(customers::kContractFile)) return;
     OpenContractInfo();
     ReadOver(ContractRecord, SecondFileNo, recordNo);
     CloseAll();
 }
 
 void ReadCycleRecord(std::int32_t recordNo) {
+    if (!FindFile(customers::kCycleFile)) return;
     OpenCycleInfo();
     ReadOver(CycleRecord, SecondFileNo, recordNo);
     CloseAll();

@@ -35,7 +35,8 @@ void ResetBillingRecords();
 void BuildContractInfo(std::int32_t firstRecord);
 // Rewrites CycleInfo.txt with the buffer in every record from recordCount down to 1.
 void BuildCycleInfo(std::int32_t recordCount);
-// A record wholly past the end of a short file leaves the buffer as it stands.
+// A record wholly past the end of a short file, or a missing file, leaves the buffer as it
+// stands; no file is made.
 void ReadContractRecord(std::int32_t recordNo);
 void ReadCycleRecord(std::int32_t recordNo);
 void WriteContractRecord(std::int32_t recordNo);

@@ -1,5 +1,7 @@
 #include "customers/frmCustomerSelection.h"
 
+#include <cmath>
+
 #include "customers/CustomerHandOff.h"
 #include "customers/Placing.h"
 #include "customers/frmCustomer.h"
@@ -35,7 +37,9 @@ bool HasCompanions(const frmCustomerSelection::Proposal& proposal) {
 
 // An amount in the currency format; a text that is no number stays as it is.
 std::string AsCurrency(const std::string& value) {
-    return IsNumeric(value) ? FormatCurrency(Val(value)) : value;
+    if (!IsNumeric(value)) return value;
+    const double amount = Val(value);
+    return std::isfinite(amount) ? FormatCurrency(amount) : value;
 }
 
 // A date as written between number signs shows as a short date.

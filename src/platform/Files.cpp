@@ -721,6 +721,43 @@ std::int64_t Lof(int fileNo) {
     return static_cast<std::int64_t>(f.buffer.size());
 }
 
+std::string GetRecords(int fileNo, long firstRecordNo, long count) {
+    OpenFile& f = Get(fileNo, "Get");
+    if (f.mode != OpenMode::Random) Raise(err::BadFileMode, f.target.string());
+    if (firstRecordNo < 1 || count < 0) Raise(err::BadRecordNumber, f.target.string());
+    f.random->clear();
+    f.random->seekg(0, std::ios::end);
+    const std::streamoff size = f.random->tellg();
+    const std::streamoff from = static_cast<std::streamoff>(firstRecordNo - 1) * f.recordLength;
+    const std::streamoff wanted = static_cast<std::streamoff>(count) * f.recordLength;
+    const std::streamoff length = std::max<std::streamoff>(0, std::min(wanted, size - from));
+    std::string bytes(static_cast<size_t>(length), '\0');
+    f.random->seekg(from);
+    f.random->read(bytes.data(), static_cast<std::streamsize>(length));
+    f.random->clear();
+    return bytes;
+}
+
+void PutRecords(int fileNo, long firstRecordNo, std::string_view bytes) {
+    OpenFile& f = Get(fileNo, "Put");
+    if (f.mode != OpenMode::Random) Raise(err::BadFileMode, f.target.string());
+    if (firstRecordNo < 1) Raise(err::BadRecordNumber, f.target.string());
+    if (bytes.size() % static_cast<size_t>(f.recordLength) != 0)
+        Raise(err::BadRecordLength, f.target.string());
+    f.random->clear();
+    f.random->seekp(0, std::ios::end);
+    const std::streamoff size = f.random->tellp();
+    const std::streamoff at = static_cast<std::streamoff>(firstRecordNo - 1) * f.recordLength;
+    if (at > size) {
+        std::string gap(static_cast<size_t>(at - size), '\0');
+        f.random->write(gap.data(), static_cast<std::streamsize>(gap.size()));
+    }
+    f.random->seekp(at);
+    f.random->write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    f.random->flush();
+    if (!*f.random) Raise(err::PathFileAccessError, f.target.string());
+}
+
 std::string FormatNumber(double value) {
     if (value == std::floor(value) && std::fabs(value) < 1e15) {
         return std::to_string(static_cast<long long>(value));

@@ -77,6 +77,11 @@ std::string LineInput(int fileNo);
 
 std::string GetRecord(int fileNo, long recordNo);
 void PutRecord(int fileNo, long recordNo, std::string_view bytes);
+// Records firstRecordNo to firstRecordNo + count - 1 in one read, for scans of a whole file:
+// what lies past the end is left out, so a partial last record comes as it stands.
+std::string GetRecords(int fileNo, long firstRecordNo, long count);
+// Consecutive whole records from firstRecordNo on, in one write.
+void PutRecords(int fileNo, long firstRecordNo, std::string_view bytes);
 
 std::string FormatNumber(double value);  // plain decimal as the delimited write puts it
 

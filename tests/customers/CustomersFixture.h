@@ -14,6 +14,7 @@
 #include "platform/Form.h"
 #include "platform/Printer.h"
 #include "platform/Records.h"
+#include "platform/RuntimeError.h"
 #include "platform/Ui.h"
 #include "platform/headless/HeadlessDialogs.h"
 #include "platform/headless/HeadlessPrinter.h"
