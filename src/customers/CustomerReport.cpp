@@ -32,9 +32,9 @@ std::vector<std::string> BlockLines(const Record& record, bool usAddress) {
     if (usAddress) {
         lines.push_back(city + ", " + state + " " + code);
     } else {
-        lines.push_back(city);
-        lines.push_back(state);
-        lines.push_back(code);
+        // Each on a line of its own; an empty one (the state, abroad) leaves no gap.
+        for (const std::string& line : {city, state, code})
+            if (!line.empty()) lines.push_back(line);
     }
     return lines;
 }

@@ -25,7 +25,7 @@ using namespace platform;
 namespace {
 
 constexpr int kFormWidth = 13440;
-constexpr int kFormHeight = 7080;
+constexpr int kFormHeight = 7440;
 constexpr int kAuxHeight = 4920;  // what the form grows by while the data screen is open
 constexpr int kBusinessPhone = 6;
 constexpr const char* kNoFrame = "";
@@ -34,14 +34,16 @@ constexpr int kMostStates = 50;
 
 const char* const kTitles[] = {"Mr/Mrs", "Mr.", "Mrs", "Ms", "Miss"};
 
-// Captions and tips of cmdNav, by index, and the place of each in the row.
+// Captions and tips of cmdNav, by index, and the place of each: the four steps in a row, the
+// quarters below them.
 const char* const kNavCaptions[] = {"|<", "<", ">", ">|", "1/4", "3/4", "1/2"};
 const char* const kNavTips[] = {
     "Selects 1st Customer Record",     "Selects Previous Customer Record",
     "Selects Next Customer Record",    "Selects Last Customer Record",
     "Goes  1/4 into Customer Records", "Goes 3/4 into Customer Record",
     "Goes 1/2 into Customer Records"};
-const int kNavPlace[] = {0, 1, 2, 3, 4, 6, 5};
+const int kNavLeft[] = {120, 1650, 3180, 4710, 885, 3945, 2415};
+const int kNavTop[] = {4440, 4440, 4440, 4440, 4920, 4920, 4920};
 
 const char* const kSearchCaptions[] = {
     "by Business Name",    "by Address #1", "by Address #2",
@@ -82,7 +84,7 @@ void frmCustomer::LayOut() {
     Place(cmdAcctType, kNoFrame, 5040, 90, 1080, 375, "Toggle Type");
     row(kNameBox, 540, 4620, 45);
 
-    Place(lblTitle, kNoFrame, 1500, 960, 1020, 255, "Title");
+    Place(lblTitle, kNoFrame, 1500, 930, 1020, 255, "Title");
     Place(cboTitle, kNoFrame, 1500, 1200, 1020, 315);
     for (const char* title : kTitles) cboTitle.AddItem(title);
     const int partLeft[] = {2580, 4200, 4620};
@@ -90,7 +92,7 @@ void frmCustomer::LayOut() {
     const int partLength[] = {15, 1, 25};
     for (int k = 0; k < 3; ++k) {
         const int box = kFirstNameBox + k;
-        Place(lblCustomer[box], kNoFrame, partLeft[k], 960, partWidth[k], 255);
+        Place(lblCustomer[box], kNoFrame, partLeft[k], 930, partWidth[k], 255);
         lblCustomer[box].SetAlignment(0);
         Place(txtCustomer[box], kNoFrame, partLeft[k], 1200, partWidth[k], 315);
         txtCustomer[box].SetMaxLength(partLength[k]);
@@ -129,13 +131,13 @@ void frmCustomer::LayOut() {
     Place(lblRecordNo, kNoFrame, 1500, 4080, 4620, 255);
 
     for (int i = 0; i < cmdNav.Count(); ++i) {
-        Place(cmdNav[i], kNoFrame, 120 + kNavPlace[i] * 870, 4440, 810, 420, kNavCaptions[i]);
+        Place(cmdNav[i], kNoFrame, kNavLeft[i], kNavTop[i], 1410, 420, kNavCaptions[i]);
         cmdNav[i].SetToolTipText(kNavTips[i]);
     }
-    Place(cmdSchedule, kNoFrame, 120, 5040, 2940, 495, "&Select Account Start Routine");
-    Place(cmdExit, kNoFrame, 3180, 5040, 2940, 495, "&Exit W/O Selecting");
-    Place(cmdNew, kNoFrame, 120, 5640, 2940, 495, "A&dd a New Customer");
-    Place(cmdCustomer, kNoFrame, 3180, 5640, 2940, 495, "Cancel Add &New");
+    Place(cmdSchedule, kNoFrame, 120, 5460, 2940, 495, "&Select Account Start Routine");
+    Place(cmdExit, kNoFrame, 3180, 5460, 2940, 495, "&Exit W/O Selecting");
+    Place(cmdNew, kNoFrame, 120, 6060, 2940, 495, "A&dd a New Customer");
+    Place(cmdCustomer, kNoFrame, 3180, 6060, 2940, 495, "Cancel Add &New");
     cmdCustomer.SetVisible(false);
 
     // ---- Finding an account, on the right
@@ -149,7 +151,7 @@ void frmCustomer::LayOut() {
     cboAccounts.SetSorted(true);
     cboAccounts.SetVisible(false);
 
-    Place(fraSearch, kNoFrame, 6360, 1680, 6840, 4455, "Search by Criteria");
+    Place(fraSearch, kNoFrame, 6360, 1680, 6840, 4875, "Search by Criteria");
     fraSearch.SetVisible(false);
     for (int i = 0; i < optSearch.Count(); ++i)
         Place(optSearch[i], "fraSearch", 240 + (i / 5) * 3240, 300 + (i % 5) * 390, 3120, 375,
@@ -159,16 +161,16 @@ void frmCustomer::LayOut() {
     Place(cmdStartSearch, "fraSearch", 4800, 2640, 1800, 435, "Search");
     cmdStartSearch.SetDefault(true);
 
-    Place(fraCustomersFound, kNoFrame, 6360, 1680, 6840, 4455, "Customer List");
+    Place(fraCustomersFound, kNoFrame, 6360, 1680, 6840, 4875, "Customer List");
     fraCustomersFound.SetVisible(false);
-    Place(fgCustomersFound, "fraCustomersFound", 120, 300, 6600, 3420);
+    Place(fgCustomersFound, "fraCustomersFound", 120, 300, 6600, 3840);
     fgCustomersFound.SetFixedCols(0);
     fgCustomersFound.SetRows(1);
-    const int columnWidths[] = {2200, 1200, 1500, 1100, 540};
+    const int columnWidths[] = {2100, 1200, 1500, 1050, 450};
     fgCustomersFound.SetCols(5);
     for (int c = 0; c < 5; ++c) fgCustomersFound.SetColWidth(c, columnWidths[c]);
-    Place(cmdPrintCustomers, "fraCustomersFound", 120, 3840, 3240, 495, "&Print Customer Report");
-    Place(cmdRetry, "fraCustomersFound", 3480, 3840, 3240, 495, "&Close/Retry");
+    Place(cmdPrintCustomers, "fraCustomersFound", 120, 4260, 3240, 495, "&Print Customer Report");
+    Place(cmdRetry, "fraCustomersFound", 3480, 4260, 3240, 495, "&Close/Retry");
 
     // ---- Menus
     mnuCustomer.SetCaption("&Customer");
@@ -184,7 +186,7 @@ void frmCustomer::LayOut() {
 }
 
 void frmCustomer::LayOutAux() {
-    Place(fraAux, kNoFrame, 120, 6300, 13080, 4800, "Customer Data");
+    Place(fraAux, kNoFrame, 120, 6660, 13080, 4800, "Customer Data");
     fraAux.SetVisible(false);
     Place(lblAuxHelp, "fraAux", 120, 240, 6480, 255,
           "Use this screen to store data about each Customer Account");
@@ -215,10 +217,10 @@ void frmCustomer::LayOutAux() {
     }
     Place(cmdSaveAux[1], "fraAux", 6720, top, 2040, 495);
     cmdSaveAux[1].SetVisible(false);
-    Place(ckSaveAux, "fraAux", 6720, 3360, 2040, 495, "RETAIN Aux Data between Accounts");
+    Place(ckSaveAux, "fraAux", 6720, 3300, 2040, 495, "RETAIN Aux Data between Accounts");
     ckSaveAux.SetToolTipText(
         "The data for one account is not cleared when the next account is loaded");
-    Place(lblSaveHelp, "fraAux", 6720, 3900, 2040, 735,
+    Place(lblSaveHelp, "fraAux", 6720, 3840, 2040, 900,
           "Data is SAVED when clicking\r\nClose Screen, Show Next, Show Previous");
 
     Place(fraBig, "fraAux", 8880, 480, 4080, 4200);
