@@ -745,6 +745,7 @@ void PutRecords(int fileNo, long firstRecordNo, std::string_view bytes) {
     if (bytes.size() % static_cast<size_t>(f.recordLength) != 0)
         Raise(err::BadRecordLength, f.target.string());
     f.random->clear();
+    // Writing past the end fills the gap with zero bytes, as the platform does.
     f.random->seekp(0, std::ios::end);
     const std::streamoff size = f.random->tellp();
     const std::streamoff at = static_cast<std::streamoff>(firstRecordNo - 1) * f.recordLength;
@@ -894,24 +895,11 @@ std::string GetRecord(int fileNo, long recordNo) {
 void PutRecord(int fileNo, long recordNo, std::string_view bytes) {
     OpenFile& f = Get(fileNo, "Put");
     if (f.mode != OpenMode::Random) Raise(err::BadFileMode, f.target.string());
-    if (recordNo < 1) Raise(err::BadRecordNumber, f.target.string());
     if (static_cast<int>(bytes.size()) > f.recordLength)
         Raise(err::BadRecordLength, f.target.string());
     std::string record(bytes);
     record.resize(static_cast<size_t>(f.recordLength), '\0');
-    f.random->clear();
-    // Writing past the end fills the gap with zero bytes, as the platform does.
-    f.random->seekp(0, std::ios::end);
-    const std::streamoff size = f.random->tellp();
-    const std::streamoff at = static_cast<std::streamoff>(recordNo - 1) * f.recordLength;
-    if (at > size) {
-        std::string gap(static_cast<size_t>(at - size), '\0');
-        f.random->write(gap.data(), static_cast<std::streamsize>(gap.size()));
-    }
-    f.random->seekp(at);
-    f.random->write(record.data(), f.recordLength);
-    f.random->flush();
-    if (!*f.random) Raise(err::PathFileAccessError, f.target.string());
+    PutRecords(fileNo, recordNo, record);
 }
 
 }  // namespace platform
