@@ -70,6 +70,11 @@ std::int32_t CountCustomers() {
 }
 
 void ReadCustomerRecord(std::int32_t recordNo) {
+    // No account book yet: the record reads as one past the end would, and no file is made.
+    if (!FindFile(customers::kCustomerFile)) {
+        CustomerRecord = Record(kCustomerRecord, "");
+        return;
+    }
     OpenCustomerData();
     CustomerRecord = GetRecord(MainFileNo, recordNo, kCustomerRecord);
     CloseAll();
