@@ -19,6 +19,7 @@
 #include "platform/RecordLayout.h"
 #include "platform/Records.h"
 #include "platform/RuntimeError.h"
+#include "platform/SerialPort.h"
 #include "platform/Ui.h"
 #include "projects/CreationWizard.h"
 #include "projects/ProjectRecord.h"
@@ -33,6 +34,8 @@
 #include "setup/frmSetup.h"
 #include "store/BasicDiskRoutines.h"
 #include "store/SharedState.h"
+#include "telephony/ModemRoutines.h"
+#include "telephony/frmDialer.h"
 
 using namespace platform;
 
@@ -60,9 +63,11 @@ void RegisterScreens() {
     Register<frmMain>();
     Register<frmCustomer>();
     Register<frmCustomerSelection>();
+    Register<frmDialer>();
     ExitProgramHook = [] { ExitProgram(); };
     ShowMainMenuHook = [] { Forms::Get(frmStartup::kName).Show(); };
     OpenManualHook = [] { OpenAddress(kManualAddress); };
+    ProbeModemHook = [] { StartModem(); };
     // The day view of the team schedule reads the projects through the control screen's tables.
     VisitProjectsHook = [](const ProjectVisitor& visit) {
         LoadProjects(Screen<frmProjectControl>());
@@ -84,6 +89,8 @@ void ResetProgramState() {
     ResetCreationState();
     ResetCustomerBuffers();
     HandedOffAccount = AccountHandOff{};
+    // A new process finds the serial port closed.
+    SharedSerialPort().Reset();
 }
 
 void SubMain() {

@@ -3,6 +3,7 @@
 #include "platform/Files.h"
 #include "platform/Form.h"
 #include "platform/RuntimeError.h"
+#include "platform/SerialPort.h"
 
 namespace platform {
 namespace {
@@ -38,6 +39,7 @@ DateTime Today() {
 
 void DoEvents() {
     Ui().DoEvents();
+    PumpSerialLines();
     if (ended) throw ProgramEnded{};
 }
 

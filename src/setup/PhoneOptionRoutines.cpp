@@ -37,12 +37,16 @@ void StartPhoneOptions(frmSetup& form) {
     LoadCallerIDOption(form);
 }
 
+bool ReadCallerIDOption(bool& inUse) {
+    if (!FindFile(kCallerIDFile)) return false;
+    OpenForInput(kCallerIDFile);
+    inUse = InputBool(MainFileNo);
+    CloseAll();
+    return true;
+}
+
 void LoadCallerIDOption(frmSetup& form) {
-    if (FindFile(kCallerIDFile)) {
-        OpenForInput(kCallerIDFile);
-        CallerIDEnabled = InputBool(MainFileNo);
-        CloseAll();
-    }
+    ReadCallerIDOption(CallerIDEnabled);
     // Whatever the stored value, the page shows caller ID in use.
     form.lblCallid.SetVisible(true);
     form.ckCallerID.SetValue(1);

@@ -5,6 +5,7 @@
 #include <ostream>
 #include <sstream>
 
+#include "app/script/ModemActions.h"
 #include "frame/SubMain.h"
 #include "platform/Controls.h"
 #include "platform/Dialogs.h"
@@ -118,7 +119,7 @@ void Require(bool ok, const std::string& what) {
 bool WorksWhileEnded(const std::string& verb) {
     static const char* const kVerbs[] = {"start",  "clock",       "file",   "exists",
                                          "dir",    "remove",      "write",  "mkdir",
-                                         "dialog", "choose-file", "answer", "other-instance"};
+                                         "dialog", "choose-file", "answer", "other-instance", "modem"};
     for (const char* v : kVerbs)
         if (verb == v) return true;
     return false;
@@ -199,6 +200,7 @@ ScriptDriver::ScriptDriver(std::string appFolder, std::ostream& out)
     ClearProgramEnded();
     Forms::Reset();
     QueuedDialogs().ClearQueue();
+    ResetModemActions();
     backend_.SetModalDriver([this](Form& form) { DriveModal(form); });
 }
 
@@ -248,6 +250,7 @@ void ScriptDriver::Next() {
         out_ << "! " << e.what() << "\n";
         ++failures_;
     }
+    ModemTimePasses();
     Flush();
 }
 
@@ -466,6 +469,11 @@ void ScriptDriver::Execute(const std::string& line) {
         const bool folders = tail == "folders";
         for (const auto& name : Dir(AppFolder() + target, folders)) out_ << " " << name;
         out_ << "\n";
+    } else if (IsModemAction(verb)) {
+        std::vector<std::string> shown;
+        const std::string problem = RunModemAction(verb, Unescape(rest), shown);
+        for (const auto& text : shown) out_ << "  " << Escape(text) << "\n";
+        Require(problem.empty(), problem);
     } else {
         throw ScriptError("unknown action " + verb);
     }

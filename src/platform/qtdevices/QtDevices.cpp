@@ -11,9 +11,11 @@
 
 #include "platform/Dialogs.h"
 #include "platform/RuntimeError.h"
+#include "platform/SerialPort.h"
 #include "platform/qtdevices/DocumentPainter.h"
 #include "platform/qtdevices/QtDialogs.h"
 #include "platform/qtdevices/QtPrinterDevice.h"
+#include "platform/qtdevices/QtSerialPort.h"
 
 namespace platform {
 
@@ -40,8 +42,12 @@ QPageLayout::Orientation ToQtOrientation(int orientation) {
 void InstallQtDevices() {
     static QtPrinterDevice printer;
     static QtDialogs dialogs(printer);
+    static QtSerialLines serialLines;
     SetPrinterDevice(&printer);
     SetDialogBackend(&dialogs);
+    SetSerialBackend(&serialLines);
+    // The port is closed while the application still exists.
+    qAddPostRoutine([] { SharedSerialPort().Reset(); });
 }
 
 void WriteDocumentPdf(const PrintedDocument& document, const std::string& path) {

@@ -6,9 +6,9 @@
 
 namespace platform {
 
-// Makes the Qt printer (through the printer dialogue, to any printer or to a PDF file) and
-// the Qt colour, font, file and printer dialogues the active ones. Call once, after the
-// QApplication exists.
+// Makes the Qt printer (through the printer dialogue, to any printer or to a PDF file),
+// the Qt colour, font, file and printer dialogues and the machine's serial ports (through
+// QSerialPort) the active ones. Call once, after the QApplication exists.
 void InstallQtDevices();
 
 // Writes a document, as the recorder kept it, to a PDF file of Letter pages. Text is fitted
