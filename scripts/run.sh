@@ -9,7 +9,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/deps.sh
 cmake -S . -B build -DCMAKE_BUILD_TYPE=Release -DSCHEDULER_TESTS=OFF -DSCHEDULER_BENCH=OFF >/dev/null
-cmake --build build -j"$(nproc)" --target NorvaxConstructionScheduler
+cmake --build build -j"$(nproc)" --target NorvaxConstructionScheduler modem-sim
 
 name=NorvaxConstructionScheduler
 home="$HOME/$name"
@@ -22,6 +22,8 @@ if ! cmp -s "$built" "$program"; then
     cp "$built" "$home/.$name.bin.new"
     mv -f "$home/.$name.bin.new" "$program"
 fi
+# The modem simulator, see README.
+cp -f build/src/app/modemsim/modem-sim "$home/.modem-sim.new" && mv -f "$home/.modem-sim.new" "$home/modem-sim"
 
 # The desktop's menu entry and icon.
 share="${XDG_DATA_HOME:-$HOME/.local/share}"

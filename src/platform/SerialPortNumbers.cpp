@@ -39,7 +39,7 @@ bool IsDevicePath(const std::string& path) {
     if (ComNumber(path)) return true;
     if (path.size() <= 5 || path.compare(0, 5, "/dev/") != 0) return false;
     for (char c : path)
-        if (static_cast<unsigned char>(c) < ' ' || c == 0x7f) return false;
+        if (static_cast<unsigned char>(c) <= ' ' || c == 0x7f) return false;
     std::istringstream parts(path);
     for (std::string part; std::getline(parts, part, '/');)
         if (part == "..") return false;

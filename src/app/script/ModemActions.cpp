@@ -50,6 +50,8 @@ bool IsModemAction(const std::string& verb) {
 
 std::string RunModemAction(const std::string& verb, const std::string& rest,
                            std::vector<std::string>& shown) {
+    // A program that has ended holds no port any more.
+    if (ProgramHasEnded()) SharedSerialPort().Reset();
     if (verb == "modem") return Modem(rest, shown);
     SimulatedSerialLines& lines = SimulatedLines();
     bool rang = false;

@@ -70,7 +70,7 @@ bool SimulatedSerialLines::Ring(const std::string& number, const std::string& na
 
 bool SimulatedSerialLines::RingWithBlock(const std::string& block) {
     if (!modem_) return false;
-    PassTime();
+    // A new call: the second ring of one before it is no more.
     Deliver(modem_->RingWithBlock(block));
     later_ = SimulatedModem::SecondRing();
     return true;

@@ -101,13 +101,9 @@ class QtSerialLine : public SerialLine {
     bool awaitingAnswer_ = false;
 };
 
-QtSerialLines::QtSerialLines() : open_(std::make_shared<std::set<QtSerialLine*>>()) {}
+namespace {
 
-QtSerialLines::~QtSerialLines() = default;
-
-std::map<int, std::string> QtSerialLines::Devices() {
-    const auto now = Clock::now();
-    if (devicesKnown_ && now - devicesTaken_ < kDeviceListLife) return devices_;
+std::vector<std::string> AvailableDevices() {
     std::vector<std::string> found;
     for (const QSerialPortInfo& info : QSerialPortInfo::availablePorts()) {
 #ifdef Q_OS_WIN
@@ -116,7 +112,21 @@ std::map<int, std::string> QtSerialLines::Devices() {
         found.push_back(info.systemLocation().toStdString());
 #endif
     }
-    devices_ = NumberSerialDevices(found, ReadSerialPins());
+    return found;
+}
+
+}  // namespace
+
+QtSerialLines::QtSerialLines(DeviceFinder findDevices)
+    : findDevices_(findDevices ? std::move(findDevices) : AvailableDevices),
+      open_(std::make_shared<std::set<QtSerialLine*>>()) {}
+
+QtSerialLines::~QtSerialLines() = default;
+
+std::map<int, std::string> QtSerialLines::Devices() {
+    const auto now = Clock::now();
+    if (devicesKnown_ && now - devicesTaken_ < kDeviceListLife) return devices_;
+    devices_ = NumberSerialDevices(findDevices_(), ReadSerialPins());
     devicesTaken_ = now;
     devicesKnown_ = true;
     return devices_;

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <map>
 #include <memory>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "platform/SerialPort.h"
 
@@ -26,7 +28,9 @@ class QtSerialLines : public SerialBackend {
     // How long a look at the machine's devices serves before the next one.
     static constexpr std::chrono::milliseconds kDeviceListLife{2000};
 
-    QtSerialLines();
+    // The devices of the machine as QSerialPortInfo lists them, or as findDevices does.
+    using DeviceFinder = std::function<std::vector<std::string>()>;
+    explicit QtSerialLines(DeviceFinder findDevices = {});
     ~QtSerialLines() override;
 
     std::unique_ptr<SerialLine> Open(int port) override;
@@ -36,6 +40,7 @@ class QtSerialLines : public SerialBackend {
     std::map<int, std::string> Devices();
 
   private:
+    DeviceFinder findDevices_;
     std::shared_ptr<std::set<QtSerialLine*>> open_;
     std::map<int, std::string> devices_;
     std::chrono::steady_clock::time_point devicesTaken_{};
