@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/Numbers.h"
 #include "platform/Records.h"
 #include "platform/RuntimeError.h"
 #include "platform/controls/TextRules.h"
