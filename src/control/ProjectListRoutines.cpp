@@ -3,6 +3,7 @@
 #include "control/ProjectTables.h"
 #include "control/frmProjectControl.h"
 #include "platform/Files.h"
+#include "platform/Numbers.h"
 #include "platform/Records.h"
 #include "platform/RuntimeError.h"
 #include "platform/Ui.h"
@@ -129,7 +130,7 @@ void ShowMilestoneDetails(frmProjectControl& f) {
     f.SelProject = f.fgProjects.Row();
     const Milestone& ms = MilestoneOf(f.SelProject, f.SelMilestone);
     std::string assigned = "Administrative Staff";
-    if (ms.type != 1) assigned = TeamListEntry(static_cast<int>(Val(ms.team)));
+    if (ms.type != 1) assigned = TeamListEntry(CInt(Val(ms.team)));
     std::string scheduled = ShortDate(ms.date);
     if (ms.type == 2) scheduled += " at " + HourLabelOf(ms.startSlot);
     std::string allotted = ms.time + " " + ms.mode;

@@ -6,6 +6,7 @@
 #include "control/frmProjectControl.h"
 #include "platform/Controls.h"
 #include "platform/Dialogs.h"
+#include "platform/Numbers.h"
 #include "platform/Printer.h"
 #include "platform/Records.h"
 #include "platform/RuntimeError.h"
@@ -110,7 +111,7 @@ void PrintProject(int project) {
     for (int m = 1; m <= HeaderOf(project).milestoneCount; ++m) {
         const Milestone& ms = MilestoneOf(project, m);
         const std::string assigned =
-            ms.type == 1 ? "Administrative" : TeamListEntry(static_cast<int>(Val(ms.team)));
+            ms.type == 1 ? "Administrative" : TeamListEntry(CInt(Val(ms.team)));
         const bool late = ms.date < today && ms.completion.find("Not") != std::string::npos;
         printer.SetForeColor(late ? kRed : 0);
         PrintAt(0.75f, ms.name);

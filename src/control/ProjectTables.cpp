@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "platform/Files.h"
+#include "platform/Numbers.h"
 #include "platform/Records.h"
 #include "platform/RuntimeError.h"
 #include "store/BasicDiskRoutines.h"

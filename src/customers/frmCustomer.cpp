@@ -12,6 +12,7 @@
 #include "customers/Placing.h"
 #include "frame/VerifyDataRoutines.h"
 #include "platform/Files.h"
+#include "platform/Numbers.h"
 #include "platform/Records.h"
 #include "platform/Ui.h"
 #include "printing/PrinterRoutines.h"

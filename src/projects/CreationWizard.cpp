@@ -4,6 +4,7 @@
 
 #include "platform/Files.h"
 #include "platform/Form.h"
+#include "platform/Numbers.h"
 #include "platform/Records.h"
 #include "platform/Ui.h"
 #include "projects/MilestonePlacement.h"
@@ -57,7 +58,7 @@ ProjectHeader HeaderOnScreen(frmMain& form) {
 }
 
 std::string TeamName(const frmMain& form, const std::string& team) {
-    const int n = static_cast<int>(Val(team));
+    const int n = CInt(Val(team));
     return form.lstTeam.List(n - 1);
 }
 
@@ -149,7 +150,7 @@ void EnterScreen(frmMain& form) {
     for (int n = 1; n <= TeamCount(); ++n) teams.AddItem(TeamNames[static_cast<size_t>(n)]);
     teams.AddItem("All Teams");
     form.UpDnTeam.SetMax(TeamCount());
-    const int team = static_cast<int>(Val(CurrentTeam));
+    const int team = CInt(Val(CurrentTeam));
     teams.SetListIndex(team >= 1 && team <= TeamCount() ? team - 1 : 0);
     form.cmdHourly_Click();
     for (int i = 1; i <= 7; ++i) form.txtCustomerInfo[i].SetText(form.lblCustomerInfo[i].Caption());
@@ -283,7 +284,7 @@ void RemoveScheduledSlots(frmMain& form) {
     const std::string projectNo = form.lblProjectNo.Caption();
     for (long m = 1; m <= form.CurrentMilestone - 1; ++m) {
         if (MsAt(MsType, m) != 2) continue;
-        const int days = MsAt(MsMode, m) == "Hours" ? 1 : static_cast<int>(Val(MsAt(MsTime, m)));
+        const int days = MsAt(MsMode, m) == "Hours" ? 1 : CInt(Val(MsAt(MsTime, m)));
         const std::string& name = MsAt(MsName, m);
         CurrentDate = MsAt(MsDate, m);
         for (int n = 1; n <= days; ++n) {

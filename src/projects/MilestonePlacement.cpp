@@ -1,5 +1,6 @@
 #include "projects/MilestonePlacement.h"
 
+#include "platform/Numbers.h"
 #include "platform/Records.h"
 #include "platform/RuntimeError.h"
 #include "platform/Ui.h"

@@ -2,6 +2,7 @@
 
 #include "platform/Files.h"
 #include "platform/Form.h"
+#include "platform/Numbers.h"
 #include "platform/Records.h"
 #include "platform/Ui.h"
 #include "projects/MilestonePlacement.h"

@@ -1,6 +1,7 @@
 #include "projects/WorkSchedule.h"
 
 #include "platform/Files.h"
+#include "platform/Numbers.h"
 #include "platform/RecordLayout.h"
 #include "platform/Records.h"
 #include "platform/RuntimeError.h"
@@ -28,7 +29,7 @@ struct RowSource {
 };
 
 void FillScheduleRow(frmMain& form, const RowSource& s, int& rowsDone) {
-    const int r = static_cast<int>(Val(s.startSlot)) - 1;
+    const int r = CInt(Val(s.startSlot)) - 1;
     // A slot that names no row of the day has nowhere to go.
     if (r < 0 || r > 11) return;
     TextBox& slot = form.txtHourSlot[r];
@@ -43,7 +44,7 @@ void FillScheduleRow(frmMain& form, const RowSource& s, int& rowsDone) {
                         Trim(s.reference), Trim(s.address2),
                         Trim(s.milestone)};
     ++rowsDone;
-    const int count = Trim(s.mode) == "Hours" ? static_cast<int>(Val(s.time)) : 8;
+    const int count = Trim(s.mode) == "Hours" ? CInt(Val(s.time)) : 8;
     for (int k = 1; k <= count - 1; ++k) {
         ++rowsDone;
         if (r + k > 11) continue;

@@ -1,6 +1,7 @@
 #include "projects/frmMain.h"
 
 #include "platform/Form.h"
+#include "platform/Numbers.h"
 #include "platform/Records.h"
 #include "platform/Ui.h"
 #include "projects/CreationWizard.h"

@@ -238,10 +238,11 @@ TEST(MalformedFiles, CustomerAccounts) {
                     {"less than half a record", a100.substr(0, 100), 0},
                     {"a record and a half", a100 + a100.substr(0, 200), 0},
                     {"NUL inside an account", office::CustomerRecord(Nul("A1", "00")),
-                     err::BadFileNameOrNumber},
+                     err::PathFileAccessError},
                     {"an account out of the folder", office::CustomerRecord("../../escape"),
                      err::PathFileAccessError},
-                    {"an account naming the folder above", office::CustomerRecord(".."), 0},
+                    {"an account naming the folder above", office::CustomerRecord(".."),
+                     err::PathFileAccessError},
                     {"folder", kFolder, 0},
                 },
                 [](const Case&, TestFolder& folder) {
