@@ -16,6 +16,7 @@
 #include "setup/SetupHooks.h"
 #include "store/BasicDiskRoutines.h"
 #include "store/SharedState.h"
+#include "telephony/DialerLink.h"
 
 using namespace platform;
 
@@ -32,16 +33,6 @@ void SetMainMenuEntry(int index, bool enabled) {
     if (Control* c =
             ControlOnScreen("frmStartup", "optProgramRoutine(" + std::to_string(index) + ")"))
         c->SetEnabled(enabled);
-}
-
-// The telephone and name given to the dialer, which then shows.
-void Dial(const std::string& number, const std::string& name) {
-    Control* lblNumber = ControlOnScreen("frmDialer", "lblNumber");
-    Control* lblName = ControlOnScreen("frmDialer", "lblName");
-    if (!lblNumber || !lblName) return;
-    lblNumber->SetCaption(number);
-    lblName->SetCaption(name);
-    Forms::Get("frmDialer").Show(vbModal);
 }
 
 constexpr int kPanelLeft = 120, kPanelTop = 120, kPanelWidth = 11040, kPanelHeight = 6900;
@@ -513,11 +504,11 @@ void frmProjectControl::cmdMenu_Click() {
 
 void frmProjectControl::imgDialer_Click() {
     const int row = fgProjects.Row();
-    Dial(fgProjects.TextMatrix(row, 4), fgProjects.TextMatrix(row, 3));
+    ShowDialer(fgProjects.TextMatrix(row, 3), fgProjects.TextMatrix(row, 4));
 }
 
 void frmProjectControl::lblCustomer_MouseUp(int button) {
     if (button != 2) return;
     const ProjectHeader& h = HeaderOf(SelProject);
-    Dial(h.billingTelephone, h.billingName);
+    ShowDialer(h.billingName, h.billingTelephone);
 }

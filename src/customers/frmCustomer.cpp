@@ -16,10 +16,10 @@
 #include "platform/Records.h"
 #include "platform/Ui.h"
 #include "printing/PrinterRoutines.h"
-#include "setup/ScreenLinks.h"
 #include "setup/SetupHooks.h"
 #include "store/BasicDiskRoutines.h"
 #include "store/SharedState.h"
+#include "telephony/DialerLink.h"
 
 using namespace platform;
 
@@ -599,12 +599,7 @@ void frmCustomer::imgDialer_Click() {
         MsgBox("Click YES to dial Phone,\r\nClick NO to dial Cell", vbYesNo + vbQuestion,
                "Select Phone or Cell") == vbNo)
         number = cell;
-    // The dialler rings once the program has it.
-    if (!Forms::Known("frmDialer")) return;
-    if (Control* name = ControlOnScreen("frmDialer", "lblName"))
-        name->SetCaption(txtCustomer[kNameBox].Text());
-    if (Control* dialled = ControlOnScreen("frmDialer", "lblNumber")) dialled->SetCaption(number);
-    Forms::Get("frmDialer").Show(vbModal);
+    ShowDialer(txtCustomer[kNameBox].Text(), number);
 }
 
 void frmCustomer::cmdSchedule_Click() {

@@ -35,6 +35,8 @@
 #include "store/BasicDiskRoutines.h"
 #include "store/SharedState.h"
 #include "telephony/ModemRoutines.h"
+#include "telephony/frmCallBack.h"
+#include "telephony/frmCallID.h"
 #include "telephony/frmDialer.h"
 
 using namespace platform;
@@ -64,6 +66,8 @@ void RegisterScreens() {
     Register<frmCustomer>();
     Register<frmCustomerSelection>();
     Register<frmDialer>();
+    Register<frmCallID>();
+    Register<frmCallBack>();
     ExitProgramHook = [] { ExitProgram(); };
     ShowMainMenuHook = [] { Forms::Get(frmStartup::kName).Show(); };
     OpenManualHook = [] { OpenAddress(kManualAddress); };

@@ -191,6 +191,9 @@ Form* Forms::Active() {
 void Forms::Activate(Form& form) {
     auto& act = Reg().activation;
     if (!act.empty() && act.back() == &form) return;
+    // The screen that had the focus loses it first, as when a modal screen comes up over it.
+    // A screen that is hidden or unloaded has left the list already and hears nothing.
+    if (!act.empty()) act.back()->Raise("Form.Deactivate");
     act.erase(std::remove(act.begin(), act.end(), &form), act.end());
     act.push_back(&form);
     form.Raise("Form.Activate");

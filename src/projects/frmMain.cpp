@@ -12,6 +12,7 @@
 #include "schedule/SchedulerRoutines.h"
 #include "setup/SetupHooks.h"
 #include "store/SharedState.h"
+#include "telephony/DialerLink.h"
 
 using namespace platform;
 
@@ -431,16 +432,9 @@ void frmMain::cmdSetJobSite_Click() {
 }
 
 void frmMain::imgDialer_Click() {
-    if (!Forms::Known("frmDialer")) {
+    if (!ShowDialer(lblCustomerInfo[1].Caption(), lblCustomerInfo[7].Caption()))
         MsgBox("\"Dialer\" is not available in this version of the program.", vbInformation,
                "Routine Not Available");
-        return;
-    }
-    Form& dialer = Forms::Get("frmDialer");
-    if (Control* name = dialer.Find("lblName")) name->SetCaption(lblCustomerInfo[1].Caption());
-    if (Control* number = dialer.Find("lblNumber"))
-        number->SetCaption(lblCustomerInfo[7].Caption());
-    dialer.Show(vbModal);
 }
 
 void frmMain::cmdContinue_Click() {
@@ -576,11 +570,8 @@ void frmMain::cmdHideSchedule_Click() {
 }
 
 void frmMain::Label2_Click(int index) {
-    if (Label2[index].Tag().empty() || !PhoneConnected || !Forms::Known("frmDialer")) return;
-    Form& dialer = Forms::Get("frmDialer");
-    if (Control* number = dialer.Find("lblNumber")) number->SetCaption(Label2[index].Tag());
-    if (Control* name = dialer.Find("lblName")) name->SetCaption(txtHourSlot[index].Tag());
-    dialer.Show(vbModal);
+    if (Label2[index].Tag().empty() || !PhoneConnected) return;
+    ShowDialer(txtHourSlot[index].Tag(), Label2[index].Tag());
 }
 
 void frmMain::Text1_Click(int index) {

@@ -12,6 +12,7 @@
 #include "setup/frmSetup.h"
 #include "store/BasicDiskRoutines.h"
 #include "store/SharedState.h"
+#include "telephony/PortErrors.h"
 #include "telephony/frmDialer.h"
 
 using namespace platform;
@@ -20,16 +21,6 @@ namespace {
 
 // A modem answers "AT" with at least its echo or "OK".
 constexpr int kAnswerBytes = 2;
-
-// Runs one statement on the port. The probe passes over every failure of the port
-// object and goes on with the next statement.
-template <typename Statement>
-void IgnoringPortErrors(Statement statement) {
-    try {
-        statement();
-    } catch (const RuntimeError&) {
-    }
-}
 
 }  // namespace
 
