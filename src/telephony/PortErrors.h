@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/RuntimeError.h"
+#include "platform/SerialPort.h"
 
 // Runs one statement on the serial port, passing over a failure of the port object, so that
 // the next statement runs as if it had worked: a modem that is gone, or a port that will not
@@ -11,4 +12,11 @@ void IgnoringPortErrors(Statement statement) {
         statement();
     } catch (const platform::RuntimeError&) {
     }
+}
+
+// What waits in the port's receive buffer; nothing when the line can't be read.
+inline int BytesWaiting(platform::SerialPort& port) {
+    int count = 0;
+    IgnoringPortErrors([&] { count = port.InBufferCount(); });
+    return count;
 }

@@ -72,11 +72,12 @@ frmCallBack::frmCallBack() : Form(kName) {
     }
 
     fgTomorrow.Move(240, 840, 11520, 4440);
-    fgTomorrow.SetCols(kColumns);
     fgTomorrow.SetFixedCols(0);
     fgTomorrow.SetFormatString(
         "<Account Name                  |^Date            |^  Time   |^Telephone No   |Assigned to "
         "               |Service                                     ");
+    // The sort key rides behind the six columns of the headings, out of sight.
+    fgTomorrow.SetCols(kColumns);
     fgTomorrow.SetColWidth(kKeyColumn, 0);
     fgTomorrow.SetToolTipText("Click an Account, then the Telephone to Call");
 

@@ -243,7 +243,7 @@ void frmCallID::tmrMain_Timer() {
     }
     Image1.SetVisible(!Image1.Visible());
     tmrMain.SetEnabled(false);
-    if (port.InBufferCount() < kCallerBlockBytes) {
+    if (BytesWaiting(port) < kCallerBlockBytes) {
         FlushModemInput();
         return;
     }

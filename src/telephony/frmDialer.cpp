@@ -251,7 +251,7 @@ void frmDialer::cmdNewDial_Click() {
         DoEvents();
         // Hung up (or the program ended) while the modem dialled: this screen is gone.
         if (!IsLoaded() || ProgramHasEnded()) return;
-        if (MSComm1.InBufferCount() >= kAnswerBytes) {
+        if (BytesWaiting(MSComm1) >= kAnswerBytes) {
             IgnoringPortErrors([&] { ModemReply = MSComm1.Input(); });
             if (ModemReply.find("OK") != std::string::npos) break;
         }
