@@ -29,6 +29,12 @@ constexpr const char* kHelpText =
     "ring, then click to talk; the modem lets the line go to your telephone. Click a speed "
     "number to take it as the number to call, or an empty one to add a name and number.";
 
+// A place is two lines of the file: a caller's name as the modem sent it ends with a line
+// end, which would push every later line out of its place, so each value is kept up to it.
+std::string OneLine(const std::string& value) {
+    return value.substr(0, value.find_first_of("\r\n"));
+}
+
 }  // namespace
 
 frmDialer::frmDialer() : Form(kName) {
@@ -173,8 +179,8 @@ void frmDialer::SaveSpeedNumbers() {
     // An empty place is not written, so the places after it move up at the next reading.
     for (size_t i = 0; i < SpeedNames.size(); ++i) {
         if (SpeedNames[i].empty()) continue;
-        PrintLine(file, SpeedNames[i]);
-        PrintLine(file, SpeedNumbers[i]);
+        PrintLine(file, OneLine(SpeedNames[i]));
+        PrintLine(file, OneLine(SpeedNumbers[i]));
     }
     CloseAllFiles();
 }

@@ -159,6 +159,18 @@ TEST_F(DialerTest, AnEntrySavedWithoutANameIsDroppedWithItsNumber) {
     EXPECT_EQ(Read("SpeedNumbers.txt"), "Office\r\n217-555-0111\r\n");
 }
 
+TEST_F(DialerTest, ACallersNameWithItsLineEndIsKeptOnOneLine) {
+    Start();
+    frmDialer& dialer = Open("SMITH JOHN\r\n", "217-555-0100");
+    dialer.cmdDialer[0].Click();
+    dialer.cmdSpeedDialer[4].Click();
+    EXPECT_EQ(Read("SpeedNumbers.txt"), "SMITH JOHN\r\n217-555-0100\r\n");
+    dialer.cmdHangup.Click();
+    frmDialer& again = Open();
+    EXPECT_EQ(again.cmdDialer[0].Caption(), "SMITH JOHN");
+    EXPECT_EQ(again.SpeedNumbers[0], "217-555-0100");
+}
+
 TEST_F(DialerTest, EveryDialPictureReachesTheDiallerWithItsNumber) {
     Start();
     EXPECT_TRUE(ShowDialer("Lee Builders", "309-555-0142"));
