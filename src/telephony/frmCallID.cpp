@@ -166,7 +166,9 @@ void frmCallID::ResetDisplay() {
     for (int i = 0; i < 3; ++i) lblCount[i].SetCaption("0");
     CustomerCalls = 0;
     OtherCalls = 0;
-    if (!FindFile(kTelCallFile)) {
+    const std::int32_t calls = StoredCalls();
+    // An empty file lists no call, as no file does.
+    if (calls == 0) {
         lblName.SetCaption("Name");
         lblNumber.SetCaption("Number");
         lblTime.SetCaption("Time Recv'd");
@@ -177,31 +179,20 @@ void frmCallID::ResetDisplay() {
         return;
     }
     const std::size_t length = kTelCallRecord.Length();
-    const std::int64_t size = FileLen(DataPath(kTelCallFile));
-    // The monitor writes whole records only: anything else is not a call list.
-    if (size % static_cast<std::int64_t>(length) != 0)
-        platform::Raise(err::BadRecordLength, kTelCallFile);
-    const std::int32_t calls = CLng(static_cast<double>(size / static_cast<std::int64_t>(length)));
-    if (calls == 0) {
-        // An empty list: the first row names no call.
-        fgCallSummary.SetRows(1);
-    } else {
-        OpenRandom(kTelCallFile, static_cast<int>(length));
-        const std::string bytes = GetRecords(MainFileNo, 1, calls);
-        CloseAllFiles();
-        fgCallSummary.SetRows(calls + 1);
-        for (std::int32_t i = 1; i <= calls; ++i) {
-            const Record record(kTelCallRecord,
-                                bytes.substr(static_cast<std::size_t>(i - 1) * length, length));
-            fgCallSummary.SetTextMatrix(i, 1, record.Text("Number"));
-            fgCallSummary.SetTextMatrix(i, 2, record.Text("Name"));
-            fgCallSummary.SetTextMatrix(i, 0, record.Text("Time"));
-        }
+    OpenRandom(kTelCallFile, static_cast<int>(length));
+    const std::string bytes = GetRecords(MainFileNo, 1, calls);
+    CloseAllFiles();
+    fgCallSummary.SetRows(calls + 1);
+    for (std::int32_t i = 1; i <= calls; ++i) {
+        const Record record(kTelCallRecord,
+                            bytes.substr(static_cast<std::size_t>(i - 1) * length, length));
+        fgCallSummary.SetTextMatrix(i, 1, record.Text("Number"));
+        fgCallSummary.SetTextMatrix(i, 2, record.Text("Name"));
+        fgCallSummary.SetTextMatrix(i, 0, record.Text("Time"));
     }
-    const int shown = calls > 0 ? 1 : 0;
-    lblName.SetCaption(fgCallSummary.TextMatrix(shown, 2));
-    lblNumber.SetCaption(fgCallSummary.TextMatrix(shown, 1));
-    lblTime.SetCaption(fgCallSummary.TextMatrix(shown, 0));
+    lblName.SetCaption(fgCallSummary.TextMatrix(1, 2));
+    lblNumber.SetCaption(fgCallSummary.TextMatrix(1, 1));
+    lblTime.SetCaption(fgCallSummary.TextMatrix(1, 0));
     lblCount[3].SetCaption(std::to_string(calls));
     CallCount = calls;
     updnCalls.SetEnabled(true);
@@ -209,6 +200,16 @@ void frmCallID::ResetDisplay() {
     updnCalls.SetValue(1);
     updnCalls.SetMin(1);
     cmdClear.SetEnabled(true);
+}
+
+// The records of TelCall.txt, none when there is no file.
+std::int32_t frmCallID::StoredCalls() {
+    if (!FindFile(kTelCallFile)) return 0;
+    const auto length = static_cast<std::int64_t>(kTelCallRecord.Length());
+    const std::int64_t size = FileLen(DataPath(kTelCallFile));
+    // The monitor writes whole records only: anything else is not a call list.
+    if (size % length != 0) platform::Raise(err::BadRecordLength, kTelCallFile);
+    return CLng(static_cast<double>(size / length));
 }
 
 void frmCallID::OpenCallerPort() {

@@ -62,6 +62,7 @@ class frmCallID : public platform::Form {
     void ResetDisplay();
 
   private:
+    std::int32_t StoredCalls();
     void OpenCallerPort();
     void StartCallerID();
     void FlushModemInput();

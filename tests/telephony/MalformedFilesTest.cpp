@@ -99,6 +99,13 @@ const Damage kDamages[] = {
          EXPECT_EQ(monitor.fgCallSummary.Rows(), 3);
          EXPECT_EQ(monitor.lblNumber.Caption(), std::string(12, '\0'));
      }},
+    {"CallListEmpty", [](MalformedFilesTest& t) { t.Write("TelCall.txt", ""); },
+     [](MalformedFilesTest& t) {
+         frmCallID& monitor = t.Monitor();
+         EXPECT_EQ(monitor.lblName.Caption(), "Name");
+         EXPECT_FALSE(monitor.cmdClear.Enabled());
+         EXPECT_FALSE(monitor.updnCalls.Enabled());
+     }},
     {"CallListIsAFolder", [](MalformedFilesTest& t) { t.Folder("TelCall.txt"); },
      [](MalformedFilesTest& t) {
          frmCallID& monitor = t.Monitor();
