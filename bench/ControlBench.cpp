@@ -61,8 +61,7 @@ void BuildOffice(const fs::path& root) {
     for (int p = 1; p <= kProjects; ++p) {
         const std::string no = "Pj" + std::to_string(100 + p / 10) + "-" + std::to_string(p % 10);
         const int team = (p - 1) % kTeams + 1;
-        std::string file = "\"" + no +
-                           "\",\"New Installation\",\"A" + std::to_string(1000 + p) +
+        std::string file = "\"" + no + "\",\"New Installation\",\"A" + std::to_string(1000 + p) +
                            "\",\"Proposal Number\",\"Customer " + std::to_string(p) +
                            "\",\"1 Elm Road\",\"\",\"Dayton\",\"OH\",\"45402\",\"937-555-0100\","
                            "\"Site\",\"2 Oak Lane\",\"\",\"Kettering\",\"OH\",\"45429\","

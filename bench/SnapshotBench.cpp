@@ -11,6 +11,7 @@
 #include <string>
 
 #include "frame/SubMain.h"
+#include "platform/FileSafety.h"
 #include "platform/Files.h"
 #include "platform/Form.h"
 #include "platform/Ui.h"
@@ -132,8 +133,13 @@ void RunToSummary(frmMain& form, double* scan) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    // --keep reuses the folder of the last run and leaves it in place.
-    const bool keep = argc > 1 && std::string(argv[1]) == "--keep";
+    // --keep reuses the folder of the last run and leaves it in place; --no-flush leaves
+    // flushing to disk out, to weigh its cost.
+    bool keep = false;
+    for (int i = 1; i < argc; ++i) {
+        if (std::string(argv[i]) == "--keep") keep = true;
+        if (std::string(argv[i]) == "--no-flush") SetFlushToDisk(false);
+    }
     const fs::path root = fs::temp_directory_path() / "scheduler-snapshot-bench";
     const fs::path scratch = fs::temp_directory_path() / "scheduler-snapshot-bench-copies";
     if (!keep || !fs::exists(root)) {

@@ -86,7 +86,6 @@ void DeleteProject(frmProjectControl& f, int project, const std::string& project
     for (long record = 1; record <= count; ++record)
         PutRecord(TempFileNo, ++kept, GetRecord(source, record));
     CloseAll();
-    DeleteEverywhere(kProjectRecordsFile);
     ReplaceWithTemporary(kProjectRecordsFile);
     if (CountRecords(kProjectRecordsFile, static_cast<int>(kProjectRecord.Length())) < 1)
         DeleteEverywhere(kProjectRecordsFile);

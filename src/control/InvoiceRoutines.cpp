@@ -69,10 +69,10 @@ void WriteInvoiceRecord(int project, std::int32_t number, const std::string& amo
 }
 
 void StoreNextInvoiceNumber(std::int32_t number) {
-    DeleteEverywhere(kInvoiceNumberFile);
-    OpenForOutput(kInvoiceNumberFile);
+    OpenForRewrite(kInvoiceNumberFile);
     WriteFields(MainFileNo, {Field(static_cast<double>(number) + 1)});
     CloseAll();
+    DeleteFile(std::string("/Backup") + kInvoiceNumberFile);
 }
 
 void CreateInvoiceRecord(int project) {

@@ -31,20 +31,19 @@ void LoadAuxHeadings(frmCustomer& form) {
 }
 
 void SaveAuxHeadings(frmCustomer& form) {
-    DeleteEverywhere(kAuxHeadingsFile);
-    OpenForOutput(kAuxHeadingsFile);
+    OpenForRewrite(kAuxHeadingsFile);
     const int file = MainFileNo;
     for (int i = 0; i < kBoxes; ++i) PrintLine(file, form.txtHeading[i].Text());
     CloseAll();
+    DeleteFile(std::string("/Backup") + kAuxHeadingsFile);
 }
 
 void SaveAuxData(frmCustomer& form) {
     const std::string account = AccountOnScreen(form);
     // A new account may not have its folders yet.
     MakeAuxFolders(account);
-    for (int i = 0; i < kBoxes; ++i) DeleteFile(AuxDataPath(account, i));
     for (int i = 0; i < kBoxes; ++i) {
-        OpenForOutput(AuxDataPath(account, i));
+        OpenForRewrite(AuxDataPath(account, i));
         PrintLine(MainFileNo, form.txtAux[i].Text());
         CloseAll();
     }

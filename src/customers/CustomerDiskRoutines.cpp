@@ -1,10 +1,12 @@
 #include "customers/CustomerDiskRoutines.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "platform/Files.h"
 #include "platform/Ui.h"
 #include "store/BasicDiskRoutines.h"
+#include "store/Journal.h"
 
 using namespace platform;
 using customers::kContractRecord;
@@ -44,9 +46,9 @@ std::int32_t RecordsHeld(const std::string& path, const RecordLayout& layout) {
 }
 
 // Copies records 1 to count of path, all but recordNo, to consecutive numbers of the scratch
-// file, then puts the copy in the place of the file (and of its Backup copy).
-void CompactWithout(const std::string& path, const std::string& scratch, const RecordLayout& layout,
-                    std::int32_t count, std::int32_t recordNo) {
+// file.
+void CopyWithout(const std::string& path, const std::string& scratch, const RecordLayout& layout,
+                 std::int32_t count, std::int32_t recordNo) {
     const size_t length = layout.Length();
     OpenRandom(scratch, LengthOf(layout));
     const int copy = MainFileNo;
@@ -59,8 +61,13 @@ void CompactWithout(const std::string& path, const std::string& scratch, const R
         records.erase(static_cast<size_t>(recordNo - 1) * length, length);
     if (!records.empty()) PutRecords(copy, 1, records);
     CloseAll();
-    DeleteEverywhere(path);
-    Name(DataPath(scratch), DataPath(path));
+}
+
+// The steps that put the compacted copy in the place of the file, then drop its Backup copy.
+void AddReplaceSteps(std::vector<JournalStep>& steps, const std::string& scratch,
+                     const std::string& path) {
+    steps.push_back({JournalStepKind::Replace, scratch, path});
+    steps.push_back({JournalStepKind::Delete, "/Backup" + path, ""});
 }
 
 }  // namespace
@@ -193,18 +200,25 @@ void WriteCycleRecord(std::int32_t recordNo) {
 
 void DeleteCustomerRecords(std::int32_t recordNo, std::int32_t recordCount,
                            const std::string& accountNo) {
-    DeleteFile("\\CUSTOMER.TMP");
-    DeleteEverywhere("/NIActiveAccounts/" + CheckedName(accountNo) + ".txt");
-    CompactWithout("\\CustomerData.txt", "\\CUSTOMER.TMP", kCustomerRecord, recordCount, recordNo);
+    const std::string activeAccount = "/NIActiveAccounts/" + CheckedName(accountNo) + ".txt";
+    // The three record files keep record n for one account: all three copies are made before
+    // the first takes its file's place, and a crash in between is finished at the next start.
+    const std::string contractScratch = StagingName("\\ContractInfo.txt");
+    for (const char* scratch : {"\\CUSTOMER.TMP", "\\Temp.txt"}) DeleteFile(scratch);
+    DeleteFile(contractScratch);
+    CopyWithout("\\CustomerData.txt", "\\CUSTOMER.TMP", kCustomerRecord, recordCount, recordNo);
     // A billing file longer than the account book keeps its surplus records.
-    DeleteFile("\\Temp.txt");
-    CompactWithout("\\CycleInfo.txt", "\\Temp.txt", kCycleRecord,
-                   std::max(recordCount, RecordsHeld(customers::kCycleFile, kCycleRecord)),
-                   recordNo);
-    DeleteFile("\\Temp.txt");
-    CompactWithout("\\ContractInfo.txt", "\\Temp.txt", kContractRecord,
-                   std::max(recordCount, RecordsHeld(customers::kContractFile, kContractRecord)),
-                   recordNo);
+    CopyWithout("\\CycleInfo.txt", "\\Temp.txt", kCycleRecord,
+                std::max(recordCount, RecordsHeld(customers::kCycleFile, kCycleRecord)), recordNo);
+    CopyWithout("\\ContractInfo.txt", contractScratch, kContractRecord,
+                std::max(recordCount, RecordsHeld(customers::kContractFile, kContractRecord)),
+                recordNo);
+    std::vector<JournalStep> steps = {{JournalStepKind::Delete, "/Backup" + activeAccount, ""},
+                                      {JournalStepKind::Delete, activeAccount, ""}};
+    AddReplaceSteps(steps, "\\CUSTOMER.TMP", "\\CustomerData.txt");
+    AddReplaceSteps(steps, "\\Temp.txt", "\\CycleInfo.txt");
+    AddReplaceSteps(steps, contractScratch, "\\ContractInfo.txt");
+    RunJournal(steps);
 }
 
 void ResetCustomerBuffers() {

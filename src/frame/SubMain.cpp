@@ -14,8 +14,10 @@
 #include "frame/frmAbout.h"
 #include "frame/frmStartup.h"
 #include "frame/frmWelcome.h"
+#include "platform/FileSafety.h"
 #include "platform/Files.h"
 #include "platform/Form.h"
+#include "platform/InstanceLock.h"
 #include "platform/RecordLayout.h"
 #include "platform/Records.h"
 #include "platform/RuntimeError.h"
@@ -33,6 +35,7 @@
 #include "setup/SetupHooks.h"
 #include "setup/frmSetup.h"
 #include "store/BasicDiskRoutines.h"
+#include "store/Journal.h"
 #include "store/SharedState.h"
 #include "telephony/ModemRoutines.h"
 #include "telephony/frmCallBack.h"
@@ -95,11 +98,14 @@ void ResetProgramState() {
     HandedOffAccount = AccountHandOff{};
     // A new process finds the serial port closed.
     SharedSerialPort().Reset();
+    // ... and holds no program folder.
+    ReleaseProgramFolders();
 }
 
 void SubMain() {
     BuildFolderTree();
     CheckPrevInstance();
+    FinishInterruptedWork();
     LoadAssignments();
     BuildBackupYearFolders();
     InitTables();
@@ -150,6 +156,21 @@ void CheckPrevInstance() {
     if (!Ui().PrevInstance()) return;
     MsgBox(Ui().ProductName() + " is already Running!\r\nLook for it on the Task Bar", vbOKOnly);
     End();
+}
+
+void FinishInterruptedWork() {
+    FinishJournal();
+    for (const std::string& folder : Dir(AppFolder() + "/*", true)) {
+        // The user's documents and the folders of other programs are not the program's own.
+        if (folder == "Documents" || folder == "NorvaxProposals") continue;
+        RemoveLeftoverTemporaries(AppFolder() + "/" + folder);
+    }
+    for (const std::string& file : Dir(AppFolder() + "/*"))
+        if (IsLeftoverTemporary(file)) Kill(AppFolder() + "/" + file);
+    // The scratch files of the compactions: each is made anew before use, so one left here
+    // is only what a crash left.
+    for (const char* scratch : {"\\TemporaryFile.txt", "\\CUSTOMER.TMP", "\\Temp.txt"})
+        DeleteFile(scratch);
 }
 
 void InitTables() {
@@ -213,6 +234,7 @@ void PurgeDayFiles() {
     CloseAll();
     PurgeMeetings();
     CloseAll();
+    FlushAllFiles();
 }
 
 void PurgeMeetings() {
@@ -235,6 +257,5 @@ void PurgeMeetings() {
             PutRecord(TempFileNo, ++kept, meeting);
     }
     CloseAll();
-    DeleteEverywhere("/Meetings.txt");
     ReplaceWithTemporary("/Meetings.txt");
 }

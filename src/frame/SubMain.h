@@ -15,6 +15,9 @@ void BuildFolderTree();
 void BuildProgramFolders();
 void BuildDocumentFolders();
 void CheckPrevInstance();
+// What a run that died left half done: the rest of its journal is done, and its temporary
+// files go. Only the one program that holds the folder may do it.
+void FinishInterruptedWork();
 void InitTables();
 void InitScreens();
 void CheckYearFolders();

@@ -9,6 +9,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/FileSafety.h"
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
 
@@ -67,11 +68,17 @@ int MirrorFolder(const std::string& source, const std::string& target, std::stri
             wanted.erase(it);  // already shared
             continue;
         }
+        WriteStep();
         if (unlinkat(fd, name.c_str(), 0) != 0) Raise(err::PermissionDenied, to + "/" + name);
+        NoteFolderChanged(to + "/" + name);
     }
     for (const auto& [name, id] : wanted) {
         const std::string file = from + "/" + name;
-        if (linkat(AT_FDCWD, file.c_str(), fd, name.c_str(), 0) == 0) continue;
+        WriteStep();
+        if (linkat(AT_FDCWD, file.c_str(), fd, name.c_str(), 0) == 0) {
+            NoteFolderChanged(to + "/" + name);
+            continue;
+        }
         if (!NoLinksHere(errno)) Raise(err::PathFileAccessError, to + "/" + name);
         FileCopy(file, to + "/" + name);
     }

@@ -16,6 +16,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/FileSafety.h"
 #include "platform/Numbers.h"
 #include "platform/Records.h"
 #include "platform/RuntimeError.h"
@@ -193,8 +194,9 @@ std::string ReadWhole(const std::string& path) {
     return content;
 }
 
-// Writes the whole of `bytes` to a new file, or one emptied.
+// Writes the whole of `bytes` to a new file, or one emptied, and flushes it to disk.
 void WriteWhole(const fs::path& path, const std::string& bytes, const fs::path& reported) {
+    WriteStep();
     Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
     if (file.fd < 0) Raise(ErrorFromSystem(errno, err::PathNotFound), reported.string());
     size_t done = 0;
@@ -209,6 +211,20 @@ void WriteWhole(const fs::path& path, const std::string& bytes, const fs::path& 
         }
         done += static_cast<size_t>(n);
     }
+    FlushFile(file.fd);
+}
+
+// Renames a complete file over its target in one step, then flushes the folder that holds
+// the new name. On failure the complete file goes and the target stays as it was.
+void RenameOver(const fs::path& complete, const fs::path& target) {
+    WriteStep();
+    if (::rename(complete.c_str(), target.c_str()) != 0) {
+        const int error = errno;
+        std::error_code ec;
+        fs::remove(complete, ec);
+        Raise(ErrorFromSystem(error, err::PermissionDenied), target.string());
+    }
+    FlushFolderOf(target);
 }
 
 // Names of a folder, by their lower-case spelling, as they were when the folder was
@@ -308,6 +324,7 @@ void ForgetFolder(const std::string& folder) {
 // Makes an empty file where there was none.
 void MakeEmptyFile(const fs::path& path) {
     FolderChange change(path);
+    WriteStep();
     Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
     if (file.fd < 0) Raise(ErrorFromSystem(errno, err::PathFileAccessError), path.string());
     change.Done(true);
@@ -319,12 +336,7 @@ void Commit(OpenFile& f) {
     if (!SequentialOutput(f.mode)) return;
     FolderChange change(f.target);
     WriteWhole(f.temporary, f.buffer, f.target);
-    if (::rename(f.temporary.c_str(), f.target.c_str()) != 0) {
-        const int error = errno;
-        std::error_code ec;
-        fs::remove(f.temporary, ec);
-        Raise(ErrorFromSystem(error, err::PermissionDenied), f.target.string());
-    }
+    RenameOver(f.temporary, f.target);
     change.Done(true);
 }
 
@@ -488,8 +500,10 @@ void MkDir(const std::string& path) {
     if (KindOf(target.parent_path().string()) != Kind::Folder)
         Raise(err::PathNotFound, target.string());
     FolderChange change(target);
+    WriteStep();
     if (::mkdir(target.c_str(), 0777) != 0)
         Raise(ErrorFromSystem(errno, err::PathFileAccessError), target.string());
+    NoteFolderChanged(target);
     change.Done(true);
 }
 
@@ -499,8 +513,10 @@ void RmDir(const std::string& path) {
     if (!fs::is_directory(target, ec)) Raise(err::PathNotFound, target.string());
     if (!fs::is_empty(target, ec)) Raise(err::PathFileAccessError, target.string());
     FolderChange change(target);
+    WriteStep();
     if (::rmdir(target.c_str()) != 0)
         Raise(ErrorFromSystem(errno, err::PathFileAccessError), target.string());
+    NoteFolderChanged(target);
     ForgetFolder(target.string());
     change.Done(false);
 }
@@ -514,8 +530,10 @@ void DeleteOneFile(const fs::path& target) {
     if (IsOpen(target)) Raise(err::PathFileAccessError, target.string());
     if (!Writable(target.string(), st)) Raise(err::PermissionDenied, target.string());
     FolderChange change(target);
+    WriteStep();
     if (::unlink(target.c_str()) != 0)
         Raise(ErrorFromSystem(errno, err::PathFileAccessError), target.string());
+    NoteFolderChanged(target);
     change.Done(false);
 }
 
@@ -543,6 +561,36 @@ void Kill(const std::string& pattern) {
     for (const auto& match : matches) DeleteOneFile(match);
 }
 
+namespace {
+
+// A file may take the place of `to` only where that is no folder or device, and not read-only.
+void RefuseToReplace(const fs::path& to) {
+    struct stat st {};
+    const Kind existing = KindOf(to.string(), &st);
+    if (existing == Kind::Folder || existing == Kind::Other)
+        Raise(err::PathFileAccessError, to.string());
+    if (existing == Kind::File && !Writable(to.string(), st))
+        Raise(err::PermissionDenied, to.string());
+}
+
+// Renames a file or folder; the folder that holds the new name is flushed after.
+void MoveEntry(const fs::path& from, const fs::path& to, bool folder) {
+    FolderChange removed(from);
+    FolderChange added(to);
+    WriteStep();
+    if (::rename(from.c_str(), to.c_str()) != 0)
+        Raise(ErrorFromSystem(errno, err::PathFileAccessError), to.string());
+    FlushFolderOf(to);
+    if (folder) {
+        ForgetFolder(from.string());
+        ForgetFolder(to.string());
+    }
+    removed.Done(false);
+    added.Done(true);
+}
+
+}  // namespace
+
 void FileCopy(const std::string& source, const std::string& target) {
     const fs::path from = Resolved(source);
     const fs::path to = Resolved(target);
@@ -552,23 +600,13 @@ void FileCopy(const std::string& source, const std::string& target) {
         if ((f.target == to && f.mode != OpenMode::Input) ||
             (f.target == from && SequentialOutput(f.mode)))
             Raise(err::PermissionDenied, to.string());
-    struct stat st {};
-    const Kind existing = KindOf(to.string(), &st);
-    if (existing == Kind::Folder || existing == Kind::Other)
-        Raise(err::PathFileAccessError, to.string());
-    if (existing == Kind::File && !Writable(to.string(), st))
-        Raise(err::PermissionDenied, to.string());
+    RefuseToReplace(to);
     // Copy beside the target, then rename: the target is never half written.
     fs::path temporary = to;
     temporary += ".~copy";
     FolderChange change(to);
     WriteWhole(temporary, ReadWhole(from.string()), to);
-    if (::rename(temporary.c_str(), to.c_str()) != 0) {
-        const int error = errno;
-        std::error_code ec;
-        fs::remove(temporary, ec);
-        Raise(ErrorFromSystem(error, err::PermissionDenied), to.string());
-    }
+    RenameOver(temporary, to);
     change.Done(true);
 }
 
@@ -579,16 +617,16 @@ void Name(const std::string& oldPath, const std::string& newPath) {
     if (kind == Kind::None) Raise(err::FileNotFound, from.string());
     if (KindOf(to.string()) != Kind::None) Raise(err::FileAlreadyExists, to.string());
     if (IsOpen(from)) Raise(err::PathFileAccessError, from.string());
-    FolderChange removed(from);
-    FolderChange added(to);
-    if (::rename(from.c_str(), to.c_str()) != 0)
-        Raise(ErrorFromSystem(errno, err::PathFileAccessError), to.string());
-    if (kind == Kind::Folder) {
-        ForgetFolder(from.string());
-        ForgetFolder(to.string());
-    }
-    removed.Done(false);
-    added.Done(true);
+    MoveEntry(from, to, kind == Kind::Folder);
+}
+
+void NameOver(const std::string& oldPath, const std::string& newPath) {
+    const fs::path from = Resolved(oldPath);
+    const fs::path to = Resolved(newPath);
+    if (KindOf(from.string()) != Kind::File) Raise(err::FileNotFound, from.string());
+    RefuseToReplace(to);
+    if (IsOpen(from) || IsOpen(to)) Raise(err::PathFileAccessError, to.string());
+    MoveEntry(from, to, false);
 }
 
 std::int64_t FileLen(const std::string& path) {
@@ -689,6 +727,7 @@ void AbandonAll() {
         struct stat st {};
         if (f.madeEmpty && KindOf(f.target.string(), &st) == Kind::File && st.st_size == 0) {
             FolderChange change(f.target);
+            WriteStep();
             if (::unlink(f.target.c_str()) == 0) change.Done(false);
         }
     }
@@ -744,6 +783,7 @@ void PutRecords(int fileNo, long firstRecordNo, std::string_view bytes) {
     if (firstRecordNo < 1) Raise(err::BadRecordNumber, f.target.string());
     if (bytes.size() % static_cast<size_t>(f.recordLength) != 0)
         Raise(err::BadRecordLength, f.target.string());
+    WriteStep();
     f.random->clear();
     // Writing past the end fills the gap with zero bytes, as the platform does.
     f.random->seekp(0, std::ios::end);

@@ -33,6 +33,9 @@ void RmDir(const std::string& path);
 void Kill(const std::string& pattern);  // wild cards in the file name
 void FileCopy(const std::string& source, const std::string& target);
 void Name(const std::string& oldPath, const std::string& newPath);
+// Puts a complete file in the place of another in one rename: whoever looks finds the old
+// file or the new one, never neither. A missing target is simply made.
+void NameOver(const std::string& oldPath, const std::string& newPath);
 std::int64_t FileLen(const std::string& path);
 std::vector<std::string> Dir(const std::string& pattern, bool folders = false);
 // How often a folder has been listed to match a name without regard to case; the folders

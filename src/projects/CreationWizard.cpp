@@ -256,22 +256,33 @@ void ShowProjectSummary(frmMain& form) {
 void SaveProject(frmMain& form) {
     MakeFolder("/ConstructionProjects");
     const std::string projectFile = ProjectFilePath(form.lblProjectNo.Caption());
-    CopyDataFile(kProjectTempFile, projectFile);
-    DeleteEverywhere(kProjectTempFile);
+    // The project file, the counter and the record file change together: each is written
+    // aside first, and a crash once they are all there is finished at the next start.
+    const std::string records = projects::kProjectRecordsFile;
+    for (const std::string& staged :
+         {StagingName(projectFile), StagingName(kPjCounterFile), StagingName(records)})
+        DeleteFile(staged);
+    CopyDataFile(kProjectTempFile, StagingName(projectFile));
     // The number is used up only now.
     NextProjectNo();
-    SavePjCounter();
-    MakeProjectNo();
+    SavePjCounter(StagingName(kPjCounterFile));
 
-    const ProjectFile saved = LoadProjectFile(projectFile);
+    const ProjectFile saved = LoadProjectFile(StagingName(projectFile));
     LoadMilestoneArrays(saved.milestones);
+    if (FileExists(DataPath(records))) CopyDataFile(records, StagingName(records));
     for (int m = 1; m <= saved.header.milestoneCount; ++m) {
         form.CurrentMilestone = m;
         if (MsAt(MsType, m) == 2)
-            AddProjectRecord(projects::kProjectRecordsFile,
+            AddProjectRecord(StagingName(records),
                              BuildProjectRecord(saved.header, MilestoneLineOf(m), m));
     }
     CloseAll();
+    RunJournal({{JournalStepKind::Replace, StagingName(projectFile), projectFile},
+                {JournalStepKind::Delete, "/Backup" + std::string(kProjectTempFile), ""},
+                {JournalStepKind::Delete, kProjectTempFile, ""},
+                {JournalStepKind::Replace, StagingName(kPjCounterFile), kPjCounterFile},
+                {JournalStepKind::Replace, StagingName(records), records}});
+    MakeProjectNo();
 
     for (const char* entry : {"optProgramRoutine(9)", "optProgramRoutine(3)"})
         if (Control* c = ControlOnScreen("frmStartup", entry)) c->SetEnabled(true);
@@ -330,9 +341,9 @@ void StartOver(frmMain& form) {
 }
 
 void KillProject(frmMain& form) {
-    DeleteFile(kProjectTempFile);
-    DeleteFile(ProjectFilePath(form.lblProjectNo.Caption()));
-    RestoreTeamFiles();
+    // The project's files go together with the day files it wrote.
+    RestoreTeamFiles({{JournalStepKind::Delete, kProjectTempFile, ""},
+                      {JournalStepKind::Delete, ProjectFilePath(form.lblProjectNo.Caption()), ""}});
     StartOver(form);
 }
 

@@ -56,8 +56,8 @@ void NextProjectNo() {
     BuildProjectNo();
 }
 
-void SavePjCounter() {
-    OpenForOutput(kPjCounterFile);
+void SavePjCounter(const std::string& path) {
+    OpenForOutput(path);
     WriteFields(MainFileNo, {Text(PjDay), Field(static_cast<double>(PjCount))});
     CloseAll();
 }

@@ -17,6 +17,8 @@ extern std::string CurrentProjectNo;
 void MakeProjectNo();
 // One number further, after a project was saved.
 void NextProjectNo();
-void SavePjCounter();
+// Writes the day and count to the counter file, or to `path` where the caller puts it in
+// place itself.
+void SavePjCounter(const std::string& path = kPjCounterFile);
 // The counters as a new process has them.
 void ResetProjectNumbers();

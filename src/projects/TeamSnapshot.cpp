@@ -3,10 +3,12 @@
 #include <string>
 
 #include "platform/FileLinks.h"
+#include "platform/FileSafety.h"
 #include "platform/Files.h"
 #include "platform/Ui.h"
 #include "schedule/Teams.h"
 #include "store/BasicDiskRoutines.h"
+#include "store/Journal.h"
 #include "store/SharedState.h"
 
 using namespace platform;
@@ -47,9 +49,15 @@ void DeleteTeamFiles(bool live) {
 void SnapshotTeamFiles() {
     CloseAll();
     MirrorTeamFolders("", "\\Backup");
+    FlushAllFiles();
 }
 
-void RestoreTeamFiles() {
+void RestoreTeamFiles(std::vector<JournalStep> first) {
     CloseAll();
-    MirrorTeamFolders("\\Backup", "");
+    // A restore cut short is finished at the next start: no team is left half way back.
+    for (int year = FirstYear(); year < FirstYear() + kYears; ++year)
+        for (int team = 1; team <= TeamCount(); ++team)
+            first.push_back({JournalStepKind::MirrorDays, "\\Backup" + TeamFolder(year, team),
+                             TeamFolder(year, team)});
+    RunJournal(first);
 }

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <vector>
+
+#include "store/Journal.h"
+
 // The snapshot that makes a project under creation reversible. The day files of every team
 // for this year and the next two are kept below Backup when the wizard starts; abandoning
 // the project puts them back, saving leaves them as they are. Unchanged day files are
@@ -10,5 +14,6 @@
 void DeleteTeamFiles(bool live);
 // The Backup tree becomes a copy of the working day files.
 void SnapshotTeamFiles();
-// The working tree becomes a copy of the Backup day files; files made since go.
-void RestoreTeamFiles();
+// The working tree becomes a copy of the Backup day files; files made since go. The steps
+// `first` (the project's own files going) are done with it, before it.
+void RestoreTeamFiles(std::vector<JournalStep> first = {});

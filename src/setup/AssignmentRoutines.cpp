@@ -1,5 +1,7 @@
 #include "setup/AssignmentRoutines.h"
 
+#include <vector>
+
 #include "contacts/VendorRecord.h"
 #include "platform/Files.h"
 #include "platform/Form.h"
@@ -10,6 +12,7 @@
 #include "setup/ScreenLinks.h"
 #include "setup/frmSetup.h"
 #include "store/BasicDiskRoutines.h"
+#include "store/Journal.h"
 #include "store/SharedState.h"
 
 using namespace platform;
@@ -30,11 +33,9 @@ int FindExact(const ComboBox& list, const std::string& text) {
     return -1;
 }
 
-}  // namespace
-
-void SaveAssignments(frmSetup& form) {
-    DeleteFile(kAssignmentsFile);
-    OpenForOutput(kAssignmentsFile);
+// Writes the names of cboAssignments to `path` and into TeamNames.
+void WriteAssignments(frmSetup& form, const std::string& path) {
+    OpenForRewrite(path);
     const int file = MainFileNo;
     for (int i = 0; i < form.cboAssignments.ListCount(); ++i) {
         const std::string& name = form.cboAssignments.List(i);
@@ -43,6 +44,30 @@ void SaveAssignments(frmSetup& form) {
         TeamNames[static_cast<size_t>(i)] = name;
     }
     CloseAll();
+}
+
+// The deleted team's folder of the current year goes, and the folders above it move one
+// number down.
+std::vector<JournalStep> PurgeFolderSteps(frmSetup& form) {
+    const std::string year = CurrentYear();
+    const std::string deleted = TeamFolder(year, form.DeletedTeam);
+    std::vector<JournalStep> steps = {{JournalStepKind::Delete, deleted + "\\*.*", ""},
+                                      {JournalStepKind::RemoveFolder, deleted, "", true}};
+    const int remaining = form.cboAssignments.ListCount();
+    if (remaining == 0) return steps;
+    // The count is already one lower than the folders: the highest folder keeps its number.
+    for (int k = form.DeletedTeam + 1; k <= remaining; ++k) {
+        if (FolderExists(DataPath(TeamFolder(year, k))))
+            steps.push_back(
+                {JournalStepKind::MoveFolder, TeamFolder(year, k), TeamFolder(year, k - 1)});
+    }
+    return steps;
+}
+
+}  // namespace
+
+void SaveAssignments(frmSetup& form) {
+    WriteAssignments(form, kAssignmentsFile);
 }
 
 void LoadTeamLists(frmSetup& form) {
@@ -70,17 +95,7 @@ void MakeNewTeamFolder(frmSetup& form) {
 }
 
 void PurgeFolder(frmSetup& form) {
-    const std::string year = CurrentYear();
-    const std::string deleted = TeamFolder(year, form.DeletedTeam);
-    DeleteFile(deleted + "\\*.*");
-    if (FolderExists(DataPath(deleted))) RmDir(DataPath(deleted));
-    const int remaining = form.cboAssignments.ListCount();
-    if (remaining == 0) return;
-    // The count is already one lower than the folders: the highest folder keeps its number.
-    for (int k = form.DeletedTeam + 1; k <= remaining; ++k) {
-        const std::string from = DataPath(TeamFolder(year, k));
-        if (FolderExists(from)) Name(from, DataPath(TeamFolder(year, k - 1)));
-    }
+    RunJournal(PurgeFolderSteps(form));
 }
 
 void LoadSubContractors(frmSetup& form) {
@@ -152,8 +167,13 @@ void DeleteAssignment(frmSetup& form) {
     }
     list.RemoveItem(entry);
     form.DeletedTeam = entry + 1;
-    SaveAssignments(form);
-    PurgeFolder(form);
+    // The names and the folders change together: the new names are written aside first, and
+    // a crash before the last folder has moved is finished at the next start.
+    WriteAssignments(form, StagingName(kAssignmentsFile));
+    std::vector<JournalStep> steps = {
+        {JournalStepKind::Replace, StagingName(kAssignmentsFile), kAssignmentsFile}};
+    for (const JournalStep& step : PurgeFolderSteps(form)) steps.push_back(step);
+    RunJournal(steps);
     LoadAssignments();
     LoadTeamLists(form);
     list.SetFocus();

@@ -184,8 +184,7 @@ void FillCopies(frmSetup& form) {
 }
 
 void SavePrintColors(frmSetup& form) {
-    DeleteEverywhere(kPrintColorsFile);
-    OpenForOutput(kPrintColorsFile);
+    OpenForRewrite(kPrintColorsFile);
     const int file = MainFileNo;
     WriteFields(file, {double(form.txtBorders.BackColor())});
     WriteFields(file, {double(form.txtData.BackColor())});
@@ -193,6 +192,7 @@ void SavePrintColors(frmSetup& form) {
     WriteFields(file, {PrintInColor});
     WriteFields(file, {double(PrintCopies)});
     CloseAll();
+    DeleteFile(std::string("/Backup") + kPrintColorsFile);
 }
 
 void ChangePrintSetting(frmSetup& form, int index) {
@@ -247,10 +247,10 @@ void LoadLogoSettings(frmSetup& form) {
 void StoreLogo(frmSetup& form) {
     const std::string picture = SharedDialog().FileName;
     if (picture.empty()) return;
-    DeleteEverywhere(kCompanyLogoFile);
-    OpenForOutput(kCompanyLogoFile);
+    OpenForRewrite(kCompanyLogoFile);
     WriteFields(MainFileNo, {Text(picture)});
     CloseAll();
+    DeleteFile(std::string("/Backup") + kCompanyLogoFile);
     SaveLogoSettings(form);
 }
 

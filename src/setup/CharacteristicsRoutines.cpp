@@ -115,8 +115,7 @@ void SaveCharacteristics(frmSetup& form) {
                          double(Slot(CharPhase, i + 1)), double(Slot(CharDependency, i + 1)),
                          double(Slot(CharLead, i + 1))});
     }
-    DeleteFile(kCharacteristicsFile);
-    OpenForOutput(kCharacteristicsFile);
+    OpenForRewrite(kCharacteristicsFile);
     const int file = MainFileNo;
     for (const auto& line : lines) WriteFields(file, line);
     CloseAll();

@@ -54,8 +54,7 @@ void LoadCallerIDOption(frmSetup& form) {
 
 void SavePhoneOptions(frmSetup& form) {
     PhoneConnected = form.ckPhone.Value() == 1;
-    DeleteFile(kPhoneFile);
-    OpenForOutput(kPhoneFile);
+    OpenForRewrite(kPhoneFile);
     const int file = MainFileNo;
     WriteFields(file, {PhoneConnected});
     WriteFields(file, {double(ModemPort)});
@@ -64,8 +63,7 @@ void SavePhoneOptions(frmSetup& form) {
 }
 
 void SaveCallerIDOption() {
-    DeleteFile(kCallerIDFile);
-    OpenForOutput(kCallerIDFile);
+    OpenForRewrite(kCallerIDFile);
     WriteFields(MainFileNo, {CallerIDEnabled});
     CloseAll();
 }

@@ -82,8 +82,8 @@ void LoadConstructionSettings(frmSetup& form) {
 
 void SaveConstructionSettings(frmSetup& form) {
     const std::string path = SettingsFilePath();
-    if (FindFile(path)) DeleteEverywhere(kFixedSettingsName);
-    OpenForOutput(path);
+    const bool found = FindFile(path);
+    OpenForRewrite(path);
     const int file = MainFileNo;
     WriteFields(file, {double(StartHour)});
     WriteFields(file, {double(WorkWeek)});
@@ -91,6 +91,13 @@ void SaveConstructionSettings(frmSetup& form) {
     WriteFields(file, {Text("")});
     WriteFields(file, {DaysDefault});
     CloseAll();
+    // The settings under the program's fixed name go, with their Backup copy, once the new
+    // file is in place (when that name is this file's, only its Backup copy).
+    if (found) {
+        DeleteFile(std::string("/Backup") + kFixedSettingsName);
+        if (ResolvePath(DataPath(kFixedSettingsName)) != ResolvePath(DataPath(path)))
+            DeleteFile(kFixedSettingsName);
+    }
     LoadConstructionSettings(form);
 }
 
@@ -114,8 +121,7 @@ void LoadPrompts(frmSetup& form) {
 }
 
 void SavePrompts() {
-    DeleteFile(kPromptsFile);
-    OpenForOutput(kPromptsFile);
+    OpenForRewrite(kPromptsFile);
     WriteFields(MainFileNo, {ShowPrompts, SoundAlarms});
     CloseAll();
 }

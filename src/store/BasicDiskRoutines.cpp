@@ -55,6 +55,11 @@ void OpenForOutput(const std::string& path) {
     Open(MainFileNo, DataPath(path), OpenMode::Output);
 }
 
+void OpenForRewrite(const std::string& path) {
+    CloseAll();
+    OpenForOutput(path);
+}
+
 void OpenForAppend(const std::string& path) {
     CloseAll();
     MainFileNo = FreeFile();
@@ -121,8 +126,15 @@ void DeleteEverywhere(const std::string& path) {
 }
 
 void ReplaceWithTemporary(const std::string& path) {
-    DeleteEverywhere(path);
-    Name(DataPath("\\TemporaryFile.txt"), DataPath(path));
+    ReplaceWithScratch("\\TemporaryFile.txt", path);
+}
+
+void ReplaceWithScratch(const std::string& scratch, const std::string& path) {
+    CloseAll();
+    // The new file takes the old one's place in one rename; the Backup copy goes only once
+    // the new file is there, so that a crash in between loses neither.
+    NameOver(DataPath(scratch), DataPath(path));
+    DeleteFile("/Backup" + path);
 }
 
 void BackupDataFiles() {
@@ -133,7 +145,7 @@ void BackupDataFiles() {
         // A failure on one file must not stop the others.
         try {
             if (!FileExists(source + file)) continue;
-            if (FileExists(target + file)) Kill(target + file);
+            // The copy replaces the old one in one rename: the old copy stays until then.
             FileCopy(source + file, target + file);
         } catch (const RuntimeError&) {
         }

@@ -26,6 +26,9 @@ std::int16_t CountRecords(const std::string& path, int recordLength);
 
 void OpenForInput(const std::string& path);
 void OpenForOutput(const std::string& path);
+// Closes every open file, then opens the file to be written anew: its old content stays in
+// place until the close puts the new content over it in one rename.
+void OpenForRewrite(const std::string& path);
 void OpenForAppend(const std::string& path);  // closes every open file first
 void OpenRandom(const std::string& path, int recordLength);
 void OpenRandomSecond(const std::string& path, int recordLength);
@@ -45,5 +48,8 @@ bool NameStaysInFolder(const std::string& name);
 void MakeFolder(const std::string& path);
 void DeleteFile(const std::string& path);  // closes every open file first; wild cards allowed
 void DeleteEverywhere(const std::string& path);
+// The scratch file takes the place of the file in one rename, then the file's Backup copy
+// is deleted.
 void ReplaceWithTemporary(const std::string& path);
+void ReplaceWithScratch(const std::string& scratch, const std::string& path);
 void BackupDataFiles();

@@ -1,8 +1,14 @@
 #include "platform/headless/HeadlessBackend.h"
 
+#include "platform/Files.h"
 #include "platform/Form.h"
+#include "platform/InstanceLock.h"
 
 namespace platform {
+
+bool HeadlessBackend::PrevInstance() {
+    return otherInstanceRunning_ || !ClaimProgramFolder(AppFolder());
+}
 
 int HeadlessBackend::MsgBox(const std::string& prompt, int buttons, const std::string& title) {
     const int kind = buttons & 7;

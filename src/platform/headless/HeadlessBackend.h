@@ -29,7 +29,8 @@ class HeadlessBackend : public Backend {
     void FormShown(Form& form) override;
     void FormHidden(Form& form) override;
     void PopupMenu(Form& form, Control& menu) override;
-    bool PrevInstance() override { return otherInstanceRunning_; }
+    // Another copy as the script plays it, or a real process holding the program folder.
+    bool PrevInstance() override;
     void OpenUrl(const std::string& url) override;
     void Quit() override;
 

@@ -1,13 +1,11 @@
 #include "platform/qt/QtBackend.h"
 
 #include <QApplication>
-#include <QCryptographicHash>
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
 #include <QEventLoop>
 #include <QGridLayout>
-#include <QLockFile>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
@@ -18,6 +16,7 @@
 
 #include "platform/Files.h"
 #include "platform/Form.h"
+#include "platform/InstanceLock.h"
 #include "platform/qt/Ansi.h"
 #include "platform/qt/FormWindow.h"
 #include "platform/qt/ProgramPictures.h"
@@ -239,20 +238,8 @@ void QtBackend::PopupMenu(Form& form, Control& menu) {
 }
 
 bool QtBackend::PrevInstance() {
-    if (instanceChecked_) return otherInstance_;
-    instanceChecked_ = true;
-    // One claim a program folder, held for the life of the process; a lock left behind by
-    // a crashed run is recognised by its dead process and taken over.
-    const QByteArray folder = QDir(QString::fromStdString(AppFolder())).absolutePath().toUtf8();
-    const QString hash = QString::fromLatin1(
-        QCryptographicHash::hash(folder, QCryptographicHash::Sha1).toHex().left(16));
-    const QString name = QString::fromStdString(ProgramFileName()) + QStringLiteral("-") + hash +
-                         QStringLiteral(".lock");
-    instanceLock_ = std::make_unique<QLockFile>(QDir(QDir::tempPath()).filePath(name));
-    instanceLock_->setStaleLockTime(0);
-    otherInstance_ = !instanceLock_->tryLock(0);
-    if (otherInstance_) instanceLock_.reset();
-    return otherInstance_;
+    // The claim is on the program folder itself, held for the life of the process.
+    return !ClaimProgramFolder(AppFolder());
 }
 
 void QtBackend::OpenUrl(const std::string& url) {

@@ -8,7 +8,6 @@
 #include "platform/Ui.h"
 
 class QEventLoop;
-class QLockFile;
 
 namespace platform::qt {
 
@@ -54,9 +53,6 @@ class QtBackend : public Backend {
         QEventLoop* loop;
     };
     std::vector<ModalLoop> modalLoops_;
-    std::unique_ptr<QLockFile> instanceLock_;
-    bool instanceChecked_ = false;
-    bool otherInstance_ = false;
     bool mainLoopRunning_ = false;
 };
 

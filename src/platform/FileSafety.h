@@ -1,0 +1,39 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+// What keeps the data files whole when the process dies or the machine stops half way
+// through a change. Every file reaches its name complete, by one rename of a file flushed to
+// disk; the folder that holds the new name is flushed after it.
+namespace platform {
+
+// Off only where a benchmark compares the cost of flushing.
+void SetFlushToDisk(bool on);
+bool FlushToDisk();
+
+void FlushFile(int descriptor);
+void FlushFolderOf(const std::filesystem::path& entry);
+// Deleting, linking and making or removing a folder flush nothing by themselves: the folder
+// is noted, and bulk tree work (snapshot, restore, purge, year roll) flushes every folder
+// noted once, at its end.
+void NoteFolderChanged(const std::filesystem::path& entry);
+void FlushAllFiles();
+
+// Temporary files of the file services are named beside their target: `X.~<process id>`
+// while sequential output is written, `X.~copy` while a copy is made, `X.~new` while the
+// new bytes of a change to several files wait for their journal. Only a process that died
+// leaves them behind.
+bool IsLeftoverTemporary(const std::string& name);
+// Removes such files from the folder and every folder below it; returns how many went.
+int RemoveLeftoverTemporaries(const std::string& folder);
+
+// Called before each operation that changes the disk: a write, rename, delete, link, new or
+// removed folder.
+void WriteStep();
+#ifdef SCHEDULER_WRITE_STEP_HOOK
+// Test builds: a hook that sees every write step before it is done (and may end the process).
+void SetWriteStepHook(void (*hook)());
+#endif
+
+}  // namespace platform

@@ -1,0 +1,139 @@
+#include <gtest/gtest.h>
+
+#include "platform/FileSafety.h"
+#include "platform/Files.h"
+#include "platform/RuntimeError.h"
+#include "store/BasicDiskRoutines.h"
+#include "store/Journal.h"
+#include "support/TestFolder.h"
+
+using namespace platform;
+using testing_support::TestFolder;
+
+namespace {
+
+// The team names and folders of a deletion of team 2 of 3, as the set-up screen writes them.
+std::vector<JournalStep> DeleteTeamTwo() {
+    return {{JournalStepKind::Replace, "\\Assignto.txt.~new", "\\Assignto.txt"},
+            {JournalStepKind::Delete, "\\2026\\Team#2\\*.*", ""},
+            {JournalStepKind::RemoveFolder, "\\2026\\Team#2", "", true},
+            {JournalStepKind::MoveFolder, "\\2026\\Team#3", "\\2026\\Team#2"}};
+}
+
+void MakeThreeTeams(const TestFolder& folder) {
+    folder.Write("Assignto.txt", "\"A\"\r\n\"B\"\r\n\"C\"\r\n");
+    folder.Write("Assignto.txt.~new", "\"A\"\r\n\"C\"\r\n");
+    folder.Write("2026/Team#1/200.txt", "one");
+    folder.Write("2026/Team#2/200.txt", "two");
+    folder.Write("2026/Team#3/200.txt", "three");
+}
+
+void ExpectTeamTwoDeleted(const TestFolder& folder) {
+    EXPECT_EQ(folder.Read("Assignto.txt"), "\"A\"\r\n\"C\"\r\n");
+    EXPECT_FALSE(folder.Exists("Assignto.txt.~new"));
+    EXPECT_EQ(folder.Read("2026/Team#1/200.txt"), "one");
+    EXPECT_EQ(folder.Read("2026/Team#2/200.txt"), "three");
+    EXPECT_FALSE(folder.Exists("2026/Team#3"));
+    EXPECT_FALSE(folder.Exists("Unfinished.jnl"));
+}
+
+}  // namespace
+
+TEST(Journal, StepsRunToTheEndAndTheJournalGoes) {
+    TestFolder folder;
+    MakeThreeTeams(folder);
+    RunJournal(DeleteTeamTwo());
+    ExpectTeamTwoDeleted(folder);
+    EXPECT_FALSE(FinishJournal());
+}
+
+TEST(Journal, AStartFinishesWhatACrashLeftAtAnyWrite) {
+    // The run stops at each write to the disk in turn. Before the journal is in place nothing
+    // has changed; after it, the next start ends where the run without a crash ends.
+    static long stop;
+    static long seen;
+    for (stop = 1;; ++stop) {
+        SCOPED_TRACE("crash at write " + std::to_string(stop));
+        TestFolder folder;
+        MakeThreeTeams(folder);
+        seen = 0;
+        SetWriteStepHook([] {
+            if (++seen == stop) throw std::runtime_error("crash");
+        });
+        bool crashed = false;
+        try {
+            RunJournal(DeleteTeamTwo());
+        } catch (const std::runtime_error&) {
+            crashed = true;
+        }
+        SetWriteStepHook(nullptr);
+        AbandonAll();
+        if (!crashed) {
+            ExpectTeamTwoDeleted(folder);
+            break;
+        }
+        FinishJournal();
+        const bool unchanged = folder.Read("Assignto.txt") == "\"A\"\r\n\"B\"\r\n\"C\"\r\n" &&
+                               folder.Read("2026/Team#2/200.txt") == "two" &&
+                               folder.Read("2026/Team#3/200.txt") == "three";
+        if (!unchanged) ExpectTeamTwoDeleted(folder);
+        EXPECT_FALSE(folder.Exists("Unfinished.jnl"));
+    }
+    EXPECT_GT(stop, 8);
+}
+
+TEST(Journal, MalformedJournalsNeitherStopTheStartNorLeaveTheFolder) {
+    struct Case {
+        const char* name;
+        std::string bytes;
+    };
+    const Case cases[] = {
+        {"cut short", "replace\t0\t\\Assignto.txt.~new"},
+        {"wrong field count", "move\t0\t\\2026\\Team#3\r\nreplace\t0\r\n"},
+        {"nan", "nan\tnan\tnan\tnan\r\n"},
+        {"huge numbers", "move\t99999999999999999999\t\\2026\\Team#3\t\\2026\\Team#9\r\n"},
+        {"NUL bytes", std::string("delete\t0\t\\2026\\Team#1\\*.*\0x\t\r\n", 30)},
+        {"climbing out", "delete\t0\t\\..\\..\\Victim.txt\t\r\nrmdir\t0\t\\..\\outside\t\r\n"},
+        {"a folder in its place", ""},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        TestFolder folder;
+        folder.Write("2026/Team#1/200.txt", "one");
+        folder.Write("2026/Team#3/200.txt", "three");
+        folder.Write("../Victim.txt", "keep");
+        if (std::string(c.name) == "a folder in its place")
+            folder.MakeDirs("Unfinished.jnl");
+        else
+            folder.Write("Unfinished.jnl", c.bytes);
+        try {
+            FinishJournal();
+        } catch (const RuntimeError&) {
+            // A folder where the journal belongs is the platform's error, as any data file.
+        }
+        CloseAll();
+        EXPECT_TRUE(folder.Exists("../Victim.txt"));
+        EXPECT_EQ(folder.Read("2026/Team#1/200.txt"), "one");
+        EXPECT_EQ(folder.Exists("Unfinished.jnl"), std::string(c.name) == "a folder in its place");
+        EXPECT_TRUE(folder.Exists("2026/Team#3/200.txt") || folder.Exists("2026/Team#9/200.txt"));
+        std::filesystem::remove(folder.Path() / "../Victim.txt");
+    }
+}
+
+TEST(Journal, LeftoverTemporariesAreKnownByTheirNames) {
+    EXPECT_TRUE(IsLeftoverTemporary("Assignto.txt.~12345"));
+    EXPECT_TRUE(IsLeftoverTemporary("Phone.txt.~copy"));
+    EXPECT_TRUE(IsLeftoverTemporary("Assignto.txt.~new"));
+    EXPECT_FALSE(IsLeftoverTemporary("Assignto.txt"));
+    EXPECT_FALSE(IsLeftoverTemporary("Notes.~draft"));
+    EXPECT_FALSE(IsLeftoverTemporary(".~123"));
+    EXPECT_FALSE(IsLeftoverTemporary("Plan.txt.~"));
+    TestFolder folder;
+    folder.Write("Assignto.txt.~4242", "half");
+    folder.Write("Backup/Phone.txt.~copy", "half");
+    folder.Write("2026/Team#1/200.txt.~99", "half");
+    folder.Write("2026/Team#1/200.txt", "whole");
+    EXPECT_EQ(RemoveLeftoverTemporaries(folder.Path().string()), 3);
+    EXPECT_EQ(folder.Read("2026/Team#1/200.txt"), "whole");
+    EXPECT_FALSE(folder.Exists("Backup/Phone.txt.~copy"));
+}
