@@ -1,8 +1,12 @@
 #include "platform/FileSafety.h"
 
 #include <cctype>
+#include <condition_variable>
+#include <deque>
+#include <mutex>
 #include <set>
 #include <system_error>
+#include <thread>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -18,16 +22,75 @@ std::set<fs::path>& ChangedFolders() {
     return folders;
 }
 
-void FlushFolder(const fs::path& folder) {
-    const int fd = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+void SyncEntry(const fs::path& entry, bool folder) {
+    const int fd = ::open(entry.c_str(), (folder ? O_DIRECTORY : 0) | O_RDONLY | O_CLOEXEC);
     if (fd < 0) return;
-    ::fsync(fd);
+    if (folder)
+        ::fsync(fd);
+    else
+        ::fdatasync(fd);
     ::close(fd);
 }
 
 fs::path FolderOf(const fs::path& entry) {
     return entry.has_parent_path() ? entry.parent_path() : fs::path(".");
 }
+
+// The waits for the disk happen beside the program, not in it: a save returns once its files
+// are in place, and the disk confirms them a moment later. Files first, then their folders.
+class Flusher {
+  public:
+    void Add(const fs::path& entry, bool folder) {
+        std::lock_guard<std::mutex> lock(mutex_);
+        if (!worker_.joinable()) worker_ = std::thread([this] { Run(); });
+        queue_.push_back({entry, folder});
+        ++pending_;
+        wake_.notify_one();
+    }
+
+    void Wait() {
+        std::unique_lock<std::mutex> lock(mutex_);
+        done_.wait(lock, [this] { return pending_ == 0; });
+    }
+
+    ~Flusher() {
+        {
+            std::lock_guard<std::mutex> lock(mutex_);
+            stop_ = true;
+            wake_.notify_one();
+        }
+        if (worker_.joinable()) worker_.join();
+    }
+
+  private:
+    void Run() {
+        std::unique_lock<std::mutex> lock(mutex_);
+        for (;;) {
+            wake_.wait(lock, [this] { return stop_ || !queue_.empty(); });
+            if (queue_.empty()) return;
+            const auto [entry, folder] = queue_.front();
+            queue_.pop_front();
+            lock.unlock();
+            SyncEntry(entry, folder);
+            lock.lock();
+            if (--pending_ == 0) done_.notify_all();
+        }
+    }
+
+    std::mutex mutex_;
+    std::condition_variable wake_;
+    std::condition_variable done_;
+    std::deque<std::pair<fs::path, bool>> queue_;
+    long pending_ = 0;
+    bool stop_ = false;
+    std::thread worker_;
+};
+
+Flusher& Disk() {
+    static Flusher flusher;
+    return flusher;
+}
+
 #ifdef SCHEDULER_WRITE_STEP_HOOK
 void (*writeStepHook)() = nullptr;
 #endif
@@ -43,11 +106,14 @@ bool FlushToDisk() {
 }
 
 void FlushFile(int descriptor) {
-    if (flushToDisk) ::fdatasync(descriptor);
+    // The disk starts writing the new bytes now, before the rename; the confirmation follows.
+    if (flushToDisk) ::sync_file_range(descriptor, 0, 0, SYNC_FILE_RANGE_WRITE);
 }
 
 void FlushFolderOf(const fs::path& entry) {
-    if (flushToDisk) FlushFolder(FolderOf(entry));
+    if (!flushToDisk) return;
+    Disk().Add(entry, false);
+    Disk().Add(FolderOf(entry), true);
 }
 
 void NoteFolderChanged(const fs::path& entry) {
@@ -55,8 +121,12 @@ void NoteFolderChanged(const fs::path& entry) {
 }
 
 void FlushAllFiles() {
-    for (const fs::path& folder : ChangedFolders()) FlushFolder(folder);
+    for (const fs::path& folder : ChangedFolders()) Disk().Add(folder, true);
     ChangedFolders().clear();
+}
+
+void WaitForFlushes() {
+    Disk().Wait();
 }
 
 bool IsLeftoverTemporary(const std::string& name) {

@@ -4,8 +4,9 @@
 #include <string>
 
 // What keeps the data files whole when the process dies or the machine stops half way
-// through a change. Every file reaches its name complete, by one rename of a file flushed to
-// disk; the folder that holds the new name is flushed after it.
+// through a change. Every file reaches its name complete, by one rename; the disk starts
+// writing the new bytes before the rename, and the file and then its folder are flushed to
+// disk right after it, beside the program, so that a save does not wait for the disk.
 namespace platform {
 
 // Off only where a benchmark compares the cost of flushing.
@@ -19,6 +20,8 @@ void FlushFolderOf(const std::filesystem::path& entry);
 // noted once, at its end.
 void NoteFolderChanged(const std::filesystem::path& entry);
 void FlushAllFiles();
+// The disk's confirmations run beside the program; the exit waits for the last of them.
+void WaitForFlushes();
 
 // Temporary files of the file services are named beside their target: `X.~<process id>`
 // while sequential output is written, `X.~copy` while a copy is made, `X.~new` while the

@@ -80,6 +80,10 @@ struct CrashAction {
     std::string clock;  // of the next start
 };
 
+void PrintTo(const CrashAction& action, std::ostream* out) {
+    *out << action.name;
+}
+
 class CrashPoints : public ::testing::TestWithParam<CrashAction> {
   protected:
     void SetUp() override {
