@@ -44,13 +44,7 @@ class Flusher {
         std::lock_guard<std::mutex> lock(mutex_);
         if (!worker_.joinable()) worker_ = std::thread([this] { Run(); });
         queue_.push_back({entry, folder});
-        ++pending_;
         wake_.notify_one();
-    }
-
-    void Wait() {
-        std::unique_lock<std::mutex> lock(mutex_);
-        done_.wait(lock, [this] { return pending_ == 0; });
     }
 
     ~Flusher() {
@@ -73,15 +67,12 @@ class Flusher {
             lock.unlock();
             SyncEntry(entry, folder);
             lock.lock();
-            if (--pending_ == 0) done_.notify_all();
         }
     }
 
     std::mutex mutex_;
     std::condition_variable wake_;
-    std::condition_variable done_;
     std::deque<std::pair<fs::path, bool>> queue_;
-    long pending_ = 0;
     bool stop_ = false;
     std::thread worker_;
 };
@@ -105,11 +96,6 @@ bool FlushToDisk() {
     return flushToDisk;
 }
 
-void FlushFile(int descriptor) {
-    // The disk starts writing the new bytes now, before the rename; the confirmation follows.
-    if (flushToDisk) ::sync_file_range(descriptor, 0, 0, SYNC_FILE_RANGE_WRITE);
-}
-
 void FlushFolderOf(const fs::path& entry) {
     if (!flushToDisk) return;
     Disk().Add(entry, false);
@@ -123,10 +109,6 @@ void NoteFolderChanged(const fs::path& entry) {
 void FlushAllFiles() {
     for (const fs::path& folder : ChangedFolders()) Disk().Add(folder, true);
     ChangedFolders().clear();
-}
-
-void WaitForFlushes() {
-    Disk().Wait();
 }
 
 bool IsLeftoverTemporary(const std::string& name) {

@@ -4,24 +4,23 @@
 #include <string>
 
 // What keeps the data files whole when the process dies or the machine stops half way
-// through a change. Every file reaches its name complete, by one rename; the disk starts
-// writing the new bytes before the rename, and the file and then its folder are flushed to
-// disk right after it, beside the program, so that a save does not wait for the disk.
+// through a change. Every file reaches its name complete, by one rename; the file and then
+// its folder are flushed to disk right after it, beside the program, so that a save does not
+// wait for the disk.
 namespace platform {
 
 // Off only where a benchmark compares the cost of flushing.
 void SetFlushToDisk(bool on);
 bool FlushToDisk();
 
-void FlushFile(int descriptor);
+// Has a file just renamed into place, and then the folder that holds it, flushed to disk.
 void FlushFolderOf(const std::filesystem::path& entry);
 // Deleting, linking and making or removing a folder flush nothing by themselves: the folder
 // is noted, and bulk tree work (snapshot, restore, purge, year roll) flushes every folder
 // noted once, at its end.
 void NoteFolderChanged(const std::filesystem::path& entry);
+// The flushes run beside the program; the end of the process waits for the last of them.
 void FlushAllFiles();
-// The disk's confirmations run beside the program; the exit waits for the last of them.
-void WaitForFlushes();
 
 // Temporary files of the file services are named beside their target: `X.~<process id>`
 // while sequential output is written, `X.~copy` while a copy is made, `X.~new` while the

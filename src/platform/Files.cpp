@@ -194,7 +194,7 @@ std::string ReadWhole(const std::string& path) {
     return content;
 }
 
-// Writes the whole of `bytes` to a new file, or one emptied, and flushes it to disk.
+// Writes the whole of `bytes` to a new file, or one emptied.
 void WriteWhole(const fs::path& path, const std::string& bytes, const fs::path& reported) {
     WriteStep();
     Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
@@ -211,11 +211,11 @@ void WriteWhole(const fs::path& path, const std::string& bytes, const fs::path& 
         }
         done += static_cast<size_t>(n);
     }
-    FlushFile(file.fd);
 }
 
-// Renames a complete file over its target in one step, then flushes the folder that holds
-// the new name. On failure the complete file goes and the target stays as it was.
+// Renames a complete file over its target in one step, then has the file and the folder
+// that holds the new name flushed to disk. On failure the complete file goes and the target stays
+// as it was.
 void RenameOver(const fs::path& complete, const fs::path& target) {
     WriteStep();
     if (::rename(complete.c_str(), target.c_str()) != 0) {
