@@ -173,8 +173,7 @@ void frmDialer::LoadSpeedNumbers() {
 }
 
 void frmDialer::SaveSpeedNumbers() {
-    DeleteFile(kSpeedNumbersFile);
-    OpenForOutput(kSpeedNumbersFile);
+    OpenForRewrite(kSpeedNumbersFile);
     const int file = MainFileNo;
     // An empty place is not written, so the places after it move up at the next reading.
     for (size_t i = 0; i < SpeedNames.size(); ++i) {
