@@ -18,11 +18,13 @@
 #include "platform/Files.h"
 #include "platform/Form.h"
 #include "platform/InstanceLock.h"
+#include "platform/Printer.h"
 #include "platform/RecordLayout.h"
 #include "platform/Records.h"
 #include "platform/RuntimeError.h"
 #include "platform/SerialPort.h"
 #include "platform/Ui.h"
+#include "printing/WorkSchedulePrintout.h"
 #include "projects/CreationWizard.h"
 #include "projects/ProjectRecord.h"
 #include "projects/WorkSchedule.h"
@@ -41,6 +43,7 @@
 #include "telephony/frmCallBack.h"
 #include "telephony/frmCallID.h"
 #include "telephony/frmDialer.h"
+#include "workorders/frmSlip.h"
 
 using namespace platform;
 
@@ -71,10 +74,12 @@ void RegisterScreens() {
     Register<frmDialer>();
     Register<frmCallID>();
     Register<frmCallBack>();
+    Register<frmSlip>();
     ExitProgramHook = [] { ExitProgram(); };
     ShowMainMenuHook = [] { Forms::Get(frmStartup::kName).Show(); };
     OpenManualHook = [] { OpenAddress(kManualAddress); };
     ProbeModemHook = [] { StartModem(); };
+    PrintWorkSchedulesHook = [](frmMain& form) { PrintWorkSchedules(form); };
     // The day view of the team schedule reads the projects through the control screen's tables.
     VisitProjectsHook = [](const ProjectVisitor& visit) {
         LoadProjects(Screen<frmProjectControl>());
@@ -100,6 +105,8 @@ void ResetProgramState() {
     SharedSerialPort().Reset();
     // ... and holds no program folder.
     ReleaseProgramFolders();
+    // ... and the printer with its first settings.
+    Printer().Reset();
 }
 
 void SubMain() {

@@ -15,6 +15,7 @@ using namespace platform;
 
 std::array<ScheduleRow, 12> PrintRows;
 std::function<bool(const ProjectVisitor&)> VisitProjectsHook;
+std::function<void(frmMain&)> PrintWorkSchedulesHook;
 
 namespace {
 

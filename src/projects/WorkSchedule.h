@@ -29,6 +29,10 @@ extern std::array<ScheduleRow, 12> PrintRows;
 using ProjectVisitor = std::function<bool(const ProjectHeader&, const Milestone&)>;
 extern std::function<bool(const ProjectVisitor&)> VisitProjectsHook;
 
+// Prints the work schedule from the print panel. The program's start-up sets it; without it
+// the print button says that printing is not available.
+extern std::function<void(frmMain&)> PrintWorkSchedulesHook;
+
 // Fills txtHourSlot, the tags of Label2 and PrintRows for the calendar's date and
 // CurrentTeam. A milestone stands in ProjectRecords.txt and in its project file, so it is
 // found, and counted, twice; the count of rows done ends the routine early.

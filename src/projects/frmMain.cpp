@@ -601,6 +601,10 @@ void frmMain::lblPrintSched_Click() {
 }
 
 void frmMain::cmdInvoiceContinue_Click() {
+    if (PrintWorkSchedulesHook) {
+        PrintWorkSchedulesHook(*this);
+        return;
+    }
     MsgBox("Printing the Work Schedule is not available in this version of the program.",
            vbInformation, "Routine Not Available");
     cmdClosePrint_Click();

@@ -6,6 +6,7 @@
 #include "platform/RuntimeError.h"
 #include "projects/TeamSchedule.h"
 #include "projects/WorkSchedule.h"
+#include "workorders/frmSlip.h"
 
 using namespace platform;
 
@@ -87,13 +88,14 @@ TEST_F(TeamSchedule, ClicksOnTheGridOfTheScheduleRoutine) {
     form.fgHours.UserClick(1, 1);  // a free row
     EXPECT_EQ(folder.Ui().Beeps(), beeps + 1);
 
-    // A project's slot with its record file opens the slip screen, which this program lacks.
+    // A project's slot with its record file opens the slip screen on that record.
     folder.Write("ProjectRecords.txt",
                  RecordBytes("Pj1-1", "1", "Hours", "1", "6/18/2026", "3", "Roof"));
     form.fgHours.UserClick(3, 1);
-    EXPECT_EQ(LastBox(),
-              "Routine Not Available: \"Service Attention Slip\" is not available in this "
-              "version of the program.");
+    frmSlip& slip = Screen<frmSlip>();
+    EXPECT_TRUE(slip.Visible());
+    EXPECT_EQ(slip.lblName.Caption(), "Smith Cottage");
+    slip.cmdAttn.Click();
     EXPECT_EQ(SelectedSlotText, "Pj1-1-Roof");
     EXPECT_EQ(LookupFile, 3);
     EXPECT_EQ(SlipTeam, "Crew A");
@@ -112,13 +114,10 @@ TEST_F(TeamSchedule, ClicksOnTheGridOfTheScheduleRoutine) {
     EXPECT_EQ(Day(1, 168), DayWith({}));
     EXPECT_EQ(form.fgHours.TextMatrix(1, 1), "No Event Scheduled");
 
-    // Printing comes later.
+    // The print panel prints the day and closes.
     form.lblPrintSched.Raise("Click");
     EXPECT_TRUE(form.fraPrint.Visible());
     form.cmdInvoiceContinue.Click();
-    EXPECT_EQ(LastBox(),
-              "Routine Not Available: Printing the Work Schedule is not available in this "
-              "version of the program.");
     EXPECT_FALSE(form.fraPrint.Visible());
 }
 
