@@ -8,6 +8,8 @@
 // its properties keep the last choice between calls.
 namespace platform {
 
+struct PrintedDocument;
+
 // Flags of the printer dialogue, as the platform numbers them.
 constexpr int cdlPDAllPages = 0x0;
 constexpr int cdlPDNoPageNums = 0x8;
@@ -57,6 +59,9 @@ class DialogBackend {
                                       const std::string& initialDir) = 0;
     // Also chooses the printer that the next print job goes to.
     virtual PrinterAnswer ChoosePrinter(int flags, int copies) = 0;
+    // The print preview of a finished document: true prints it, false lets it go. A backend
+    // without one prints.
+    virtual bool PreviewDocument(const PrintedDocument& document) { return true; }
     // The file to write to, offering proposedPath; a backend without one cancels.
     virtual FileAnswer ChooseSaveFile(const std::string& title, const std::string& filter,
                                       const std::string& proposedPath) {

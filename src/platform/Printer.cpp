@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdio>
 
+#include "platform/Dialogs.h"
 #include "platform/RuntimeError.h"
 #include "platform/headless/HeadlessPrinter.h"
 
@@ -12,6 +13,7 @@ namespace platform {
 namespace {
 
 PrinterDevice* installedDevice = nullptr;
+bool previewOn = false;
 
 std::string Number(double value) {
     char buffer[32];
@@ -91,6 +93,14 @@ PrinterDevice& PrinterDevices() {
 
 void SetPrinterDevice(PrinterDevice* device) {
     installedDevice = device;
+}
+
+bool PrintPreviewOn() {
+    return previewOn;
+}
+
+void SetPrintPreview(bool on) {
+    previewOn = on;
 }
 
 PrinterObject& Printer() {
@@ -257,6 +267,8 @@ void PrinterObject::EndDoc() {
     page_ = 1;
     currentX_ = 0;
     currentY_ = 0;
+    // Every document passes the preview here, so none needs its own.
+    if (previewOn && !Dialogs().PreviewDocument(document)) return;
     PrinterDevices().Output(document);
 }
 

@@ -83,6 +83,12 @@ PrinterDevice& PrinterDevices();
 // Installs a device (not owned); nullptr goes back to the headless recorder.
 void SetPrinterDevice(PrinterDevice* device);
 
+// When on, a finished document is first shown in a print preview (the dialog backend's), where
+// the user sends it on to the printer or lets it go. The desktop program turns it on; tests
+// and scripts turn it on when they look at the preview.
+bool PrintPreviewOn();
+void SetPrintPreview(bool on);
+
 // How Print leaves the position: the start of the next line, or behind the text (a print
 // statement that ends with a semicolon).
 enum class PrintEnd { NextLine, Semicolon };
@@ -150,7 +156,8 @@ class PrinterObject {
     // inside the text goes on at the left edge of the next line.
     void Print(std::string_view text = {}, PrintEnd end = PrintEnd::NextLine);
     void NewPage();
-    // Ends the document and sends it to the device; nothing is sent when nothing was drawn.
+    // Ends the document and sends it to the device, after the print preview when that is on;
+    // nothing is sent when nothing was drawn or the preview was cancelled.
     void EndDoc();
     // Abandons the document.
     void KillDoc();

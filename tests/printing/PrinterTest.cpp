@@ -92,6 +92,36 @@ TEST_F(PrintingTest, KillDocAndAnEmptyEndDocSendNothing) {
     EXPECT_TRUE(RecordingPrinter().Documents().empty());
 }
 
+// Every document passes the preview at EndDoc when it is on, whichever routine drew it.
+TEST_F(PrintingTest, ThePreviewLetsADocumentGoOnOrDropsIt) {
+    platform::SetPrintPreview(true);
+    platform::QueuedDialogs().QueuePreview(false);
+    Printer().Print("first");
+    Printer().NewPage();
+    Printer().Print("second");
+    Printer().EndDoc();
+    EXPECT_TRUE(RecordingPrinter().Documents().empty());
+    EXPECT_FALSE(Printer().DocumentOpen());
+    EXPECT_EQ(Printer().Page(), 1);
+
+    // Unanswered, the preview prints.
+    Printer().Print("again");
+    Printer().EndDoc();
+    platform::SetPrintPreview(false);
+    ASSERT_EQ(RecordingPrinter().Documents().size(), 1u);
+    EXPECT_EQ(RecordingPrinter().LastDocument().pages.at(0).operations.at(0).text, "again");
+    const auto& shown = platform::QueuedDialogs().Shown();
+    ASSERT_EQ(shown.size(), 2u);
+    EXPECT_EQ(shown[0], "preview 2 page(s) -> cancel");
+    EXPECT_EQ(shown[1], "preview 1 page(s) -> print");
+
+    // Off, nothing is shown.
+    Printer().Print("straight");
+    Printer().EndDoc();
+    EXPECT_EQ(platform::QueuedDialogs().Shown().size(), 2u);
+    EXPECT_EQ(RecordingPrinter().Documents().size(), 2u);
+}
+
 TEST_F(PrintingTest, APrinterFailureIsARuntimeError) {
     RecordingPrinter().FailNextOutput(482);
     Printer().Print("x");

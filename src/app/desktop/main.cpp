@@ -61,6 +61,8 @@ int main(int argc, char** argv) {
     platform::SetBackend(&backend);
 #ifdef SCHEDULER_HAVE_QTDEVICES
     platform::InstallQtDevices();
+    // Every document is shown before it goes to paper or to a PDF file.
+    platform::SetPrintPreview(true);
 #endif
     ExitOnStopSignals(&app);
 

@@ -11,6 +11,7 @@
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
 #include "platform/Form.h"
+#include "platform/Printer.h"
 #include "platform/RuntimeError.h"
 #include "platform/Ui.h"
 #include "platform/headless/HeadlessDialogs.h"
@@ -117,9 +118,9 @@ void Require(bool ok, const std::string& what) {
 // Actions that do not need the program running: they prepare or inspect the folder, or set
 // the clock for the next start.
 bool WorksWhileEnded(const std::string& verb) {
-    static const char* const kVerbs[] = {"start",  "clock",       "file",   "exists",
-                                         "dir",    "remove",      "write",  "mkdir",
-                                         "dialog", "choose-file", "answer", "other-instance", "modem"};
+    static const char* const kVerbs[] = {
+        "start",  "clock",       "file",   "exists",         "dir",   "remove", "write", "mkdir",
+        "dialog", "choose-file", "answer", "other-instance", "modem", "preview"};
     for (const char* v : kVerbs)
         if (verb == v) return true;
     return false;
@@ -145,6 +146,9 @@ void QueueDialogAnswer(const std::string& kind, const std::string& value) {
     } else if (kind == "pdf") {
         Require(!value.empty(), "dialog pdf needs a /path");
         dialogs.QueuePdfFile(AppFolder() + value);
+    } else if (kind == "preview") {
+        Require(value == "print" || value == "cancel", "dialog preview needs print or cancel");
+        dialogs.QueuePreview(value == "print");
     } else if (kind == "cancel") {
         dialogs.QueueCancel();
     } else {
@@ -200,6 +204,8 @@ ScriptDriver::ScriptDriver(std::string appFolder, std::ostream& out)
     ClearProgramEnded();
     Forms::Reset();
     QueuedDialogs().ClearQueue();
+    // Scripts look at the print preview only when they turn it on.
+    SetPrintPreview(false);
     ResetModemActions();
     backend_.SetModalDriver([this](Form& form) { DriveModal(form); });
 }
@@ -300,6 +306,9 @@ void ScriptDriver::Execute(const std::string& line) {
             QueuedDialogs().QueueCancel();
         else
             QueuedDialogs().QueueFile(AppFolder() + rest);
+    } else if (verb == "preview") {
+        Require(rest == "on" || rest == "off", "preview needs on or off");
+        SetPrintPreview(rest == "on");
     } else if (verb == "dialog") {
         QueueDialogAnswer(target, tail);
     } else if (verb == "click") {

@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 
+#include "platform/Printer.h"
 #include "platform/headless/HeadlessBackend.h"
 
 namespace platform {
@@ -87,6 +88,14 @@ PrinterAnswer HeadlessDialogs::ChoosePrinter(int flags, int copies) {
     return result;
 }
 
+bool HeadlessDialogs::PreviewDocument(const PrintedDocument& document) {
+    Answer queued;
+    const bool print = !Next(queued) || queued.accepted;
+    Record("preview " + std::to_string(document.pages.size()) + " page(s) -> " +
+           (print ? "print" : "cancel"));
+    return print;
+}
+
 void HeadlessDialogs::QueueColor(std::int32_t color) {
     Answer answer;
     answer.hasColor = true;
@@ -115,6 +124,12 @@ void HeadlessDialogs::QueuePrinter(int copies) {
 void HeadlessDialogs::QueuePdfFile(const std::string& path) {
     Answer answer;
     answer.pdfFile = path;
+    answers_.push_back(answer);
+}
+
+void HeadlessDialogs::QueuePreview(bool print) {
+    Answer answer;
+    answer.accepted = print;
     answers_.push_back(answer);
 }
 

@@ -11,7 +11,8 @@ namespace platform {
 
 // The dialogs of tests and scripts: each dialogue takes the next queued answer. With none
 // queued, the colour, font and printer dialogues are confirmed as they stand (OK), and the
-// file dialogues are cancelled, since there is no file to pick. Every dialogue shown is logged.
+// file dialogues are cancelled, since there is no file to pick; a print preview prints. Every
+// dialogue shown is logged.
 class HeadlessDialogs : public DialogBackend {
   public:
     ColorAnswer ChooseColor(std::int32_t current) override;
@@ -21,6 +22,7 @@ class HeadlessDialogs : public DialogBackend {
     PrinterAnswer ChoosePrinter(int flags, int copies) override;
     FileAnswer ChooseSaveFile(const std::string& title, const std::string& filter,
                               const std::string& proposedPath) override;
+    bool PreviewDocument(const PrintedDocument& document) override;
 
     void QueueColor(std::int32_t color);
     void QueueFont(const std::string& name);
@@ -30,12 +32,15 @@ class HeadlessDialogs : public DialogBackend {
     void QueuePrinter(int copies = 0);
     // The printer dialogue prints into this PDF file.
     void QueuePdfFile(const std::string& path);
+    // The next print preview prints (or, with print false, is closed without printing).
+    void QueuePreview(bool print);
     // The next dialogue, of whatever kind, is cancelled.
     void QueueCancel();
     void ClearQueue() { answers_.clear(); }
     std::size_t Queued() const { return answers_.size(); }
 
-    // "color", "font", "open", "save" or "printer" with what was answered, one a dialogue shown.
+    // "color", "font", "open", "save", "printer" or "preview" with what was answered, one a
+    // dialogue shown.
     const std::vector<std::string>& Shown() const { return shown_; }
     void ClearShown() { shown_.clear(); }
 

@@ -3,10 +3,15 @@
 #include <QAbstractPrintDialog>
 #include <QApplication>
 #include <QColorDialog>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QFontDialog>
+#include <QPageLayout>
 #include <QPrintDialog>
+#include <QPrintPreviewWidget>
+#include <QPushButton>
 #include <QStringList>
+#include <QVBoxLayout>
 
 #include "platform/qtdevices/DocumentPainter.h"
 #include "platform/qtdevices/MetricFonts.h"
@@ -98,6 +103,36 @@ PrinterAnswer QtDialogs::ChoosePrinter(int flags, int copies) {
     // A PDF file chosen here is the Qt printer's own output file; the document goes there.
     if (dialog.exec() != QDialog::Accepted) return {false, copies, {}};
     return {true, printer.copyCount() < 1 ? 1 : printer.copyCount(), {}};
+}
+
+bool QtDialogs::PreviewDocument(const PrintedDocument& document) {
+    if (document.pages.empty()) return true;
+    QPrinter& printer = printer_.Device();
+    const auto firstOrientation = document.pages.front().orientation == vbPRORLandscape
+                                      ? QPageLayout::Landscape
+                                      : QPageLayout::Portrait;
+    printer.setPageOrientation(firstOrientation);
+    QDialog dialog(QApplication::activeWindow());
+    dialog.setWindowTitle(QStringLiteral("Print Preview"));
+    auto* layout = new QVBoxLayout(&dialog);
+    auto* preview = new QPrintPreviewWidget(&printer, &dialog);
+    // The same drawing as the print job, page for page.
+    QObject::connect(preview, &QPrintPreviewWidget::paintRequested, preview,
+                     [&document, firstOrientation](QPrinter* device) {
+                         device->setPageOrientation(firstOrientation);
+                         QPainter painter(device);
+                         PaintDocument(painter, *device, document);
+                     });
+    layout->addWidget(preview, 1);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, &dialog);
+    QPushButton* print = buttons->addButton(QStringLiteral("&Print"), QDialogButtonBox::AcceptRole);
+    print->setDefault(true);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    layout->addWidget(buttons);
+    dialog.resize(900, 1000);
+    preview->fitInView();
+    return dialog.exec() == QDialog::Accepted;
 }
 
 }  // namespace platform

@@ -22,6 +22,8 @@ class QtDialogs : public DialogBackend {
     PrinterAnswer ChoosePrinter(int flags, int copies) override;
     FileAnswer ChooseSaveFile(const std::string& title, const std::string& filter,
                               const std::string& proposedPath) override;
+    // The pages as the chosen printer will print them, with Print and Cancel.
+    bool PreviewDocument(const PrintedDocument& document) override;
 
   private:
     QtPrinterDevice& printer_;

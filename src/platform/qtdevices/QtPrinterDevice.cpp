@@ -22,6 +22,17 @@ QPageLayout::Orientation ToQtOrientation(int orientation) {
 
 }  // namespace
 
+bool PaintDocument(QPainter& painter, QPrinter& printer, const PrintedDocument& document) {
+    for (std::size_t i = 0; i < document.pages.size(); ++i) {
+        if (i > 0) {
+            printer.setPageOrientation(ToQtOrientation(document.pages[i].orientation));
+            if (!printer.newPage()) return false;
+        }
+        PaintPage(painter, document.pages[i], printer.resolution(), false);
+    }
+    return true;
+}
+
 QtPrinterDevice::QtPrinterDevice()
     : printer_(std::make_unique<QPrinter>(QPrinter::HighResolution)) {
     printer_->setPageSize(QPageSize(QPageSize::Letter));
@@ -59,15 +70,9 @@ void QtPrinterDevice::Output(const PrintedDocument& document) {
     if (!painter.begin(printer_.get())) {
         throw RuntimeError(kPrinterError, "Printer error", "Printer.EndDoc");
     }
-    for (std::size_t i = 0; i < document.pages.size(); ++i) {
-        if (i > 0) {
-            printer_->setPageOrientation(ToQtOrientation(document.pages[i].orientation));
-            if (!printer_->newPage()) {
-                painter.end();
-                throw RuntimeError(kPrinterError, "Printer error", "Printer.NewPage");
-            }
-        }
-        PaintPage(painter, document.pages[i], printer_->resolution(), false);
+    if (!PaintDocument(painter, *printer_, document)) {
+        painter.end();
+        throw RuntimeError(kPrinterError, "Printer error", "Printer.NewPage");
     }
     painter.end();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPainter>
 #include <QPrinter>
 #include <memory>
 
@@ -9,6 +10,11 @@ namespace platform {
 
 // The desktop printer: the printer chosen in the printer dialogue, which may also be a PDF
 // file. Text is measured with the printer's own fonts.
+// Paints the pages of a document onto a printer that is ready for them, each page in its own
+// orientation, as the printer's job or as the pages of a print preview.
+// False when the printer refused a page.
+bool PaintDocument(QPainter& painter, QPrinter& printer, const PrintedDocument& document);
+
 class QtPrinterDevice : public PrinterDevice {
   public:
     QtPrinterDevice();
