@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/DateTime.h"
+#include "store/Windows1252.h"
 
 // The iCalendar format (RFC 5545) as far as holidays and a team's schedule need it: content
 // lines folded at 75 octets and ended by CR LF, escaped text, DATE and DATE-TIME values,
@@ -61,10 +62,6 @@ bool ParseCalendarTime(const CalendarProperty& property, CalendarTime& time);
 bool ParseDurationValue(std::string_view value, long long& seconds);
 std::string FormatDateValue(platform::DateTime date);
 std::string FormatDateTimeValue(platform::DateTime when, bool utc);
-
-// Text of the program (Windows-1252) as UTF-8, and back; what has no place there becomes "?".
-std::string AnsiToUtf8(std::string_view text);
-std::string Utf8ToAnsi(std::string_view text);
 
 // Builds a calendar file line by line.
 class CalendarWriter {

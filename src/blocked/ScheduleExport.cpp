@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <map>
 #include <optional>
 
@@ -16,6 +15,7 @@
 #include "schedule/SchedulerRoutines.h"
 #include "schedule/Teams.h"
 #include "store/BasicDiskRoutines.h"
+#include "store/CsvFile.h"
 #include "store/SharedState.h"
 
 using namespace platform;
@@ -151,24 +151,6 @@ void AddEvent(CalendarWriter& out, const ScheduleEvent& event, bool namesTeams, 
     out.End("VEVENT");
 }
 
-bool WriteWhole(const std::string& path, const std::string& bytes) {
-    const std::string part = path + ".part";
-    {
-        std::ofstream out(part, std::ios::binary | std::ios::trunc);
-        out << bytes;
-        out.close();
-        if (!out) {
-            std::error_code ignored;
-            std::filesystem::remove(part, ignored);
-            return false;
-        }
-    }
-    std::error_code ec;
-    std::filesystem::rename(part, path, ec);
-    if (ec) std::filesystem::remove(part, ec);
-    return !ec;
-}
-
 }  // namespace
 
 std::vector<ScheduleEvent> CollectScheduleEvents(int firstTeam, int lastTeam, DateTime first,
@@ -226,7 +208,7 @@ void ExportSchedule(frmBlock& form) {
     const auto events = CollectScheduleEvents(allTeams ? 1 : index + 1,
                                               allTeams ? TeamCount() : index + 1, first, last);
     const std::string fileName = std::filesystem::path(path).filename().string();
-    if (!WriteWhole(path, ScheduleCalendar(events, name + " Schedule", allTeams, Now()))) {
+    if (!SaveExportFile(path, ScheduleCalendar(events, name + " Schedule", allTeams, Now()))) {
         MsgBox("The calendar could not be written to " + fileName + ".", vbExclamation, kTitle);
         return;
     }

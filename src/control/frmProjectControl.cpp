@@ -2,6 +2,7 @@
 
 #include "control/CompletionRoutines.h"
 #include "control/InvoiceRoutines.h"
+#include "control/ProjectListExport.h"
 #include "control/ProjectListRoutines.h"
 #include "control/ProjectReports.h"
 #include "control/ProjectTables.h"
@@ -188,7 +189,9 @@ void frmProjectControl::LayOut() {
     mnuPastDue.SetCaption("&Past Due Milestones");
     mnuClearAll.SetCaption("&Delete All Projects");
     mnuPrintAll.SetCaption("Print &All Projects");
-    for (Menu* m : {&mnuPastDue, &mnuClearAll, &mnuPrintAll}) m->SetContainer("mnuRoutines");
+    mnuSaveList.SetCaption("&Save Project List as CSV...");
+    for (Menu* m : {&mnuPastDue, &mnuClearAll, &mnuPrintAll, &mnuSaveList})
+        m->SetContainer("mnuRoutines");
     mnuProjectS.SetCaption("Project");
     mnuProjectS.SetVisible(false);
     mnuProjectSummary.SetCaption("Project &Summary");
@@ -229,6 +232,7 @@ void frmProjectControl::RegisterHandlers() {
     On("mnuPrint.Click", [this](EventArgs&) { mnuPrint_Click(); });
     On("cmdPrint.Click", [this](EventArgs&) { mnuPrint_Click(); });
     On("mnuPrintAll.Click", [this](EventArgs&) { mnuPrintAll_Click(); });
+    On("mnuSaveList.Click", [this](EventArgs&) { mnuSaveList_Click(); });
     On("mnuHelp.Click", [this](EventArgs&) { mnuHelp_Click(); });
     On("cmdPJSHide.Click", [this](EventArgs&) { cmdPJSHide_Click(); });
     On("cmdGotoProjects.Click", [this](EventArgs&) { cmdPJSHide_Click(); });
@@ -460,6 +464,10 @@ void frmProjectControl::mnuPrintAll_Click() {
     if (MsgBox("This Routine Prints all Projects\r\nClick Yes to Continue", vbYesNo + vbQuestion,
                "Print All Projects") == vbYes)
         PrintAllProjects(*this);
+}
+
+void frmProjectControl::mnuSaveList_Click() {
+    SaveProjectList(*this);
 }
 
 void frmProjectControl::mnuHelp_Click() {

@@ -67,6 +67,7 @@ class frmProjectControl : public platform::Form {
     platform::Menu mnuPastDue{*this, "mnuPastDue"};
     platform::Menu mnuClearAll{*this, "mnuClearAll"};
     platform::Menu mnuPrintAll{*this, "mnuPrintAll"};
+    platform::Menu mnuSaveList{*this, "mnuSaveList"};
     platform::Menu mnuProjectS{*this, "mnuProjectS"};
     platform::Menu mnuProjectSummary{*this, "mnuProjectSummary"};
     platform::Menu mnuCompleteProject{*this, "mnuCompleteProject"};
@@ -106,6 +107,7 @@ class frmProjectControl : public platform::Form {
     void mnuClearAll_Click();
     void mnuPrint_Click();
     void mnuPrintAll_Click();
+    void mnuSaveList_Click();
     void mnuHelp_Click();
     void cmdPJSHide_Click();
     void cmdMSDetailsHide_Click();

@@ -6,6 +6,7 @@
 #include "customers/AuxDataRoutines.h"
 #include "customers/CustomerDiskRoutines.h"
 #include "customers/CustomerHandOff.h"
+#include "customers/CustomerListExport.h"
 #include "customers/CustomerReport.h"
 #include "customers/CustomerRoutines.h"
 #include "customers/CustomerSearch.h"
@@ -179,7 +180,9 @@ void frmCustomer::LayOut() {
     mnuDelete.SetCaption("DELETE This customer");
     mnuPrint.SetCaption("View Customer List");
     mnuAux.SetCaption("Toggle Data Screen");
-    for (Menu* m : {&mnuAdd, &mnuDelete, &mnuPrint, &mnuAux}) m->SetContainer("mnuCustomer");
+    mnuSaveList.SetCaption("&Save Customer List as CSV...");
+    for (Menu* m : {&mnuAdd, &mnuDelete, &mnuPrint, &mnuAux, &mnuSaveList})
+        m->SetContainer("mnuCustomer");
     mnupopup.SetCaption("Customers");
     mnupopup.SetVisible(false);
     mnuSelect.SetCaption("Load Customer");
@@ -263,6 +266,7 @@ void frmCustomer::RegisterHandlers() {
     On("mnuSelect.Click", [this](EventArgs&) { mnuSelect_Click(); });
     On("cmdRetry.Click", [this](EventArgs&) { cmdRetry_Click(); });
     On("cmdPrintCustomers.Click", [this](EventArgs&) { cmdPrintCustomers_Click(); });
+    On("mnuSaveList.Click", [this](EventArgs&) { mnuSaveList_Click(); });
     On("imgDialer.Click", [this](EventArgs&) { imgDialer_Click(); });
     On("cmdSchedule.Click", [this](EventArgs&) { cmdSchedule_Click(); });
     On("mnuAux.Click", [this](EventArgs&) { mnuAux_Click(); });
@@ -582,6 +586,10 @@ void frmCustomer::mnuSelect_Click() {
 void frmCustomer::cmdRetry_Click() {
     fraCustomersFound.SetVisible(false);
     mnuPrint.SetCaption("View Customer List");
+}
+
+void frmCustomer::mnuSaveList_Click() {
+    SaveCustomerList(*this);
 }
 
 void frmCustomer::cmdPrintCustomers_Click() {

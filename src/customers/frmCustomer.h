@@ -94,6 +94,7 @@ class frmCustomer : public platform::Form {
     platform::Menu mnuDelete{*this, "mnuDelete"};
     platform::Menu mnuPrint{*this, "mnuPrint"};
     platform::Menu mnuAux{*this, "mnuAux"};
+    platform::Menu mnuSaveList{*this, "mnuSaveList"};
     platform::Menu mnupopup{*this, "mnupopup"};
     platform::Menu mnuSelect{*this, "mnuSelect"};
 
@@ -139,6 +140,7 @@ class frmCustomer : public platform::Form {
     void imgDialer_Click();
     void cmdSchedule_Click();
     void mnuAux_Click();
+    void mnuSaveList_Click();
     void cmdSaveAux_Click(int index);
     void txtAux_DblClick(int index);
     void lblClear_Click(int index);

@@ -1,0 +1,60 @@
+#include "store/CsvFile.h"
+
+#include <filesystem>
+#include <fstream>
+#include <system_error>
+
+#include "store/Windows1252.h"
+
+namespace {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+std::string CsvLine(const CsvRow& row) {
+    std::string line;
+    for (size_t i = 0; i < row.size(); ++i) {
+        if (i > 0) line += ',';
+        line += CsvField(row[i]);
+    }
+    return line + "\r\n";
+}
+
+}  // namespace
+
+std::string CsvField(std::string_view ansiText) {
+    const std::string text = AnsiToUtf8(ansiText);
+    if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
+    std::string quoted = "\"";
+    for (char c : text) {
+        if (c == '"') quoted += '"';
+        quoted += c;
+    }
+    return quoted + "\"";
+}
+
+std::string CsvTable(const CsvRow& header, const std::vector<CsvRow>& rows) {
+    std::string bytes(kByteOrderMark);
+    bytes += CsvLine(header);
+    for (const CsvRow& row : rows) bytes += CsvLine(row);
+    return bytes;
+}
+
+bool SaveExportFile(const std::string& fullPath, const std::string& bytes) {
+    std::error_code ec;
+    // A folder of that name is never replaced.
+    if (std::filesystem::is_directory(fullPath, ec)) return false;
+    const std::string part = fullPath + ".part";
+    {
+        std::ofstream out(part, std::ios::binary | std::ios::trunc);
+        out << bytes;
+        out.close();
+        if (!out) {
+            std::error_code ignored;
+            std::filesystem::remove(part, ignored);
+            return false;
+        }
+    }
+    std::filesystem::rename(part, fullPath, ec);
+    if (ec) std::filesystem::remove(part, ec);
+    return !ec;
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+// Tables saved for a spreadsheet: CSV as RFC 4180 has it, in UTF-8 with a byte-order mark
+// (which tells spreadsheets the encoding), a header row naming the columns, CR LF after every
+// row. The texts come from the Windows-1252 data files and are converted on the way out.
+
+using CsvRow = std::vector<std::string>;
+
+// One field: in double quotes, with its quotes doubled, when it holds a comma, a quote or a
+// line break; as it stands otherwise.
+std::string CsvField(std::string_view ansiText);
+// The whole file: the mark, the header and the rows.
+std::string CsvTable(const CsvRow& header, const std::vector<CsvRow>& rows);
+
+// Writes a file the user chose outside the program's data: under a temporary name beside it,
+// renamed into place once whole. False when it could not be written; nothing is left behind.
+bool SaveExportFile(const std::string& fullPath, const std::string& bytes);
