@@ -111,25 +111,26 @@ void BuildWorkSchedule(frmMain& form) {
         if (!FindFile(path)) continue;
         const long records = static_cast<long>(FileLen(DataPath(path)) / length);
         OpenRandom(path, length);
-        const int file = MainFileNo;
+        // The whole file in one read: the printouts build the day of every team in turn.
+        std::string bytes;
         try {
-            for (long n = 1; n <= records; ++n) {
-                if (rowsDone > 12) {
-                    CloseAll();
-                    return;
-                }
-                const Record record = GetRecord(file, n, projects::kProjectRecord);
-                DateTime date;
-                if (!ParseDate(record.Trimmed("Date"), date)) Raise(err::TypeMismatch, path);
-                if (date.DayOfYear() == shown.DayOfYear() && date.Year() == shown.Year() &&
-                    record.Trimmed("Team") == Trim(CurrentTeam))
-                    FillScheduleRow(form, SourceOf(record), rowsDone);
-            }
+            if (records > 0) bytes = GetRecords(MainFileNo, 1, records);
         } catch (const RuntimeError&) {
             CloseAll();
             throw;
         }
         CloseAll();
+        for (long n = 1; n <= records; ++n) {
+            if (rowsDone > 12) return;
+            const Record record(
+                projects::kProjectRecord,
+                bytes.substr(static_cast<size_t>((n - 1) * length), static_cast<size_t>(length)));
+            DateTime date;
+            if (!ParseDate(record.Trimmed("Date"), date)) Raise(err::TypeMismatch, path);
+            if (date.DayOfYear() == shown.DayOfYear() && date.Year() == shown.Year() &&
+                record.Trimmed("Team") == Trim(CurrentTeam))
+                FillScheduleRow(form, SourceOf(record), rowsDone);
+        }
     }
     if (rowsDone >= 12) return;
 

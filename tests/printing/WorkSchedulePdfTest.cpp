@@ -7,32 +7,25 @@
 #include "platform/headless/HeadlessPrinter.h"
 #include "platform/qtdevices/QtDevices.h"
 #include "projects/WizardFixture.h"
+#include "workorders/SlipBytes.h"
 
 using namespace platform;
 
 namespace {
-
-std::string Pad(std::string text, size_t length) {
-    text.resize(length, ' ');
-    return text;
-}
-
-std::string SlipBytes(const std::string& key, const std::string& hours, const std::string& slot,
-                      const std::string& name, const std::string& street) {
-    return Pad("", 10) + Pad(key, 10) + Pad("1", 2) + Pad("Hours", 6) + Pad(hours, 2) +
-           Pad("6/17/2026", 10) + Pad(slot, 2) + Pad("Leaking faucet", 30) + Pad("", 70) +
-           Pad("A2002", 20) + Pad(name, 30) + Pad(street, 35) + Pad("", 25) +
-           Pad("Springfield", 20) + Pad("IL", 2) + Pad("62704", 10) + Pad("217-555-0142", 13);
-}
 
 class WorkSchedulePdf : public WizardTest {};
 
 }  // namespace
 
 TEST_F(WorkSchedulePdf, BothLayoutsGoToPdf) {
+    Slip longStreet;
+    longStreet.key = "SA1003";
+    longStreet.amount = "1";
+    longStreet.time = "8";
+    longStreet.name = "Bob Roe";
+    longStreet.street = "1200 West Washington Boulevard";
     folder.Write("Slips.txt",
-                 SlipBytes("SA1002", "2", "3", "Jane Doe", "9 Elm St") +
-                     SlipBytes("SA1003", "1", "8", "Bob Roe", "1200 West Washington Boulevard"));
+                 SlipBytes("SA1002", "1", "2", "3", "Jane Doe") + SlipBytes(longStreet));
     folder.Write("2026/Team#1/168.txt", DayWith({{3, "SA1002 Leaking faucet"},
                                                  {4, "SA1002 Leaking faucet"},
                                                  {6, "Recurring Inspection"},

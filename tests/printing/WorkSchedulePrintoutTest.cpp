@@ -8,24 +8,11 @@
 #include "platform/headless/HeadlessDialogs.h"
 #include "platform/headless/HeadlessPrinter.h"
 #include "printing/WorkSchedulePrintout.h"
+#include "workorders/SlipBytes.h"
 
 using namespace platform;
 
 namespace {
-
-std::string Pad(std::string text, size_t length) {
-    text.resize(length, ' ');
-    return text;
-}
-
-// A service slip of the service-call program.
-std::string SlipBytes(const std::string& key, const std::string& team, const std::string& hours,
-                      const std::string& slot, const std::string& name) {
-    return Pad("", 10) + Pad(key, 10) + Pad(team, 2) + Pad("Hours", 6) + Pad(hours, 2) +
-           Pad("6/17/2026", 10) + Pad(slot, 2) + Pad("Leaking faucet", 30) + Pad("", 70) +
-           Pad("A2002", 20) + Pad(name, 30) + Pad("9 Elm St", 35) + Pad("Unit 4", 25) +
-           Pad("Springfield", 20) + Pad("IL", 2) + Pad("62704", 10) + Pad("217-555-0142", 13);
-}
 
 constexpr double kInch = 1440;
 

@@ -7,31 +7,13 @@
 
 #include "platform/RuntimeError.h"
 #include "projects/TeamSchedule.h"
+#include "workorders/SlipBytes.h"
 #include "workorders/SlipFile.h"
 #include "workorders/frmSlip.h"
 
 using namespace platform;
 
 namespace {
-
-struct Slip {
-    std::string key, assigned = "1", unit = "Hours", amount = "2", date = "6/17/2026", time = "3",
-                     problem = "Leaking faucet", account = "A2002", name = "Jane Doe",
-                     street = "9 Elm St", apt = "Unit 4", city = "Springfield", state = "IL",
-                     zip = "62704", telephone = "217-555-0142";
-};
-
-std::string Pad(std::string text, size_t length) {
-    text.resize(length, ' ');
-    return text;
-}
-
-std::string SlipBytes(const Slip& s) {
-    return Pad("", 10) + Pad(s.key, 10) + Pad(s.assigned, 2) + Pad(s.unit, 6) + Pad(s.amount, 2) +
-           Pad(s.date, 10) + Pad(s.time, 2) + Pad(s.problem, 30) + Pad("", 70) +
-           Pad(s.account, 20) + Pad(s.name, 30) + Pad(s.street, 35) + Pad(s.apt, 25) +
-           Pad(s.city, 20) + Pad(s.state, 2) + Pad(s.zip, 10) + Pad(s.telephone, 13);
-}
 
 class SlipScreen : public WizardTest {
   protected:
