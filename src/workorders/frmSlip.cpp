@@ -47,7 +47,7 @@ frmSlip::frmSlip() : Form(kName) {
     const char* const customerHeadings[8] = {"Name",  "Street", "Apt/Suite", "City",
                                              "State", "Zip",    "Telephone", "Account"};
     Label* const visit[5] = {&lblDate, &lblTime, &lblDuration, &lblProblem, &lblAssignto};
-    const char* const visitHeadings[5] = {"Date", "Time", "Duration", "Milestone", "Assigned to"};
+    const char* const visitHeadings[5] = {"Date", "Time", "Duration", "Problem", "Assigned to"};
     for (int i = 0; i < 8; ++i) {
         const int top = 780 + i * 420;
         lblHeading[i].SetCaption(customerHeadings[i]);

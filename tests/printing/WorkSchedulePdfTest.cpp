@@ -1,12 +1,14 @@
 // The daily work schedule as a person sees it: both layouts written to PDF through the desktop
 // printer's drawing, to be looked at page by page.
+// Before Qt, whose "slots" is a macro.
+#include "projects/WizardFixture.h"
+
 #include <QApplication>
 #include <cstdlib>
 #include <fstream>
 
 #include "platform/headless/HeadlessPrinter.h"
 #include "platform/qtdevices/QtDevices.h"
-#include "projects/WizardFixture.h"
 #include "workorders/SlipBytes.h"
 
 using namespace platform;
