@@ -9,6 +9,7 @@
 #include "projects/ProjectRecord.h"
 #include "projects/TeamSchedule.h"
 #include "setup/SetupHooks.h"
+#include "telephony/DialerLink.h"
 #include "workorders/SlipFile.h"
 
 using namespace platform;
@@ -95,11 +96,7 @@ void frmSlip::cmdAttn_Click() {
 }
 
 void frmSlip::imgDialer_Click() {
-    if (!Forms::Known("frmDialer")) return;
-    Form& dialer = Forms::Get("frmDialer");
-    if (Control* number = dialer.Find("lblNumber")) number->SetCaption(lblTelephone.Caption());
-    if (Control* name = dialer.Find("lblName")) name->SetCaption(lblName.Caption());
-    dialer.Show(vbModal);
+    ShowDialer(lblName.Caption(), lblTelephone.Caption());
 }
 
 void frmSlip::ReadCallSlip() {
