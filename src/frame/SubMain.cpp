@@ -2,6 +2,7 @@
 
 #include "blocked/frmAdmin.h"
 #include "blocked/frmBlock.h"
+#include "contacts/frmContacts.h"
 #include "control/ProjectListRoutines.h"
 #include "control/ProjectTables.h"
 #include "control/frmProjectControl.h"
@@ -75,6 +76,7 @@ void RegisterScreens() {
     Register<frmCallID>();
     Register<frmCallBack>();
     Register<frmSlip>();
+    Register<frmContacts>();
     ExitProgramHook = [] { ExitProgram(); };
     ShowMainMenuHook = [] { Forms::Get(frmStartup::kName).Show(); };
     OpenManualHook = [] { OpenAddress(kManualAddress); };
