@@ -45,6 +45,7 @@
 #include "telephony/frmCallID.h"
 #include "telephony/frmDialer.h"
 #include "workorders/frmSlip.h"
+#include "workorders/frmWorkOrder.h"
 
 using namespace platform;
 
@@ -77,6 +78,7 @@ void RegisterScreens() {
     Register<frmCallBack>();
     Register<frmSlip>();
     Register<frmContacts>();
+    Register<frmWorkOrder>();
     ExitProgramHook = [] { ExitProgram(); };
     ShowMainMenuHook = [] { Forms::Get(frmStartup::kName).Show(); };
     OpenManualHook = [] { OpenAddress(kManualAddress); };

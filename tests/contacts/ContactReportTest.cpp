@@ -109,7 +109,8 @@ TEST_F(ContactReportTest, NoCancelAndAPrinterFailureAreToldApart) {
     Answer(vbYes);
     platform::QueuedDialogs().QueueCancel();
     PrintReport();
-    EXPECT_EQ(BoxTexts().back(), "[Norvax Construction Scheduler] The Work Order will not be Printed");
+    EXPECT_EQ(BoxTexts().back(),
+              "[Norvax Construction Scheduler] The Work Order will not be Printed");
 
     Answer(vbYes);
     RecordingPrinter().FailNextOutput(platform::err::PrinterError);
