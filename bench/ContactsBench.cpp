@@ -1,12 +1,10 @@
 // Times the vendor screen on the vendor file of a large office: 5,000 contacts. Prints one
 // line per action; each should stay under 100 ms.
-#include <chrono>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
-#include <functional>
 #include <string>
 
+#include "BenchSupport.h"
 #include "contacts/frmContacts.h"
 #include "frame/SubMain.h"
 #include "platform/Files.h"
@@ -17,14 +15,13 @@
 
 namespace fs = std::filesystem;
 using namespace platform;
+using bench::Report;
+using bench::Time;
+using bench::WriteFile;
 
 namespace {
 
 constexpr int kContacts = 5000;
-
-void WriteFile(const fs::path& path, const std::string& bytes) {
-    std::ofstream(path, std::ios::binary) << bytes;
-}
 
 std::string Contact(int i) {
     const std::string n = std::to_string(i);
@@ -43,18 +40,6 @@ std::string Contact(int i) {
     w.Text(i % 3 ? "Vendor" : "Sub-Contractor", 20);
     w.Text("Contact " + n, 30);
     return w.Bytes();
-}
-
-double Time(const std::function<void()>& action) {
-    const auto start = std::chrono::steady_clock::now();
-    Dispatch(action);
-    const auto end = std::chrono::steady_clock::now();
-    return std::chrono::duration<double, std::milli>(end - start).count();
-}
-
-bool Report(const char* action, double ms, double limit = 100) {
-    std::printf("%s: %.0f ms\n", action, ms);
-    return ms < limit;
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include "platform/RuntimeError.h"
 #include "platform/Ui.h"
 #include "printing/PrinterRoutines.h"
+#include "workorders/WorkOrderPrint.h"
 
 using namespace platform;
 
@@ -82,11 +83,7 @@ void PrintContactReport(std::int32_t count) {
         PrintContactRows(count);
         Printer().EndDoc();
     } catch (const RuntimeError& e) {
-        Printer().KillDoc();
         // The report shares the work order's handler, and its words.
-        if (e.Number() == cdlCancel)
-            MsgBox("The Work Order will not be Printed");
-        else
-            MsgBox("A Print Error has occurred", vbOKOnly + vbCritical, "Print Error");
+        ReportPrintFailure(e);
     }
 }

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "customers/CustomerDiskRoutines.h"
+#include "platform/Dialogs.h"
 #include "platform/Files.h"
 #include "platform/Numbers.h"
 #include "platform/Printer.h"
@@ -272,4 +273,12 @@ void PrintSummaryReport(frmWorkOrder& form) {
     PrintAt(kListsLeft * kTwipsPerInch,
             "Service performed by: ______________________________________________");
     printer.EndDoc();
+}
+
+void ReportPrintFailure(const RuntimeError& error) {
+    Printer().KillDoc();
+    if (error.Number() == cdlCancel)
+        MsgBox("The Work Order will not be Printed");
+    else
+        MsgBox("A Print Error has occurred", vbOKOnly + vbCritical, "Print Error");
 }

@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "platform/RuntimeError.h"
+
 class frmWorkOrder;
 
 // The printed documents of the work order, drawn by position on portrait Letter pages in
@@ -18,3 +20,7 @@ void PrintSummaryReport(frmWorkOrder& form);
 void PrintWOHeader(const std::string& account);
 // The column headings of a parts page.
 void PrintInvoiceHeaderLine();
+
+// What the user is told when a printing routine stops: a cancelled printer dialogue means the
+// document is not printed, anything else is a print error. Any job under way is abandoned.
+void ReportPrintFailure(const platform::RuntimeError& error);

@@ -187,17 +187,17 @@ void frmWorkOrder::ClearPartsList() {
 
 void frmWorkOrder::lstItems_Click() {
     // The price follows the item; the user may overtype it afterwards.
-    if (lstItems.ListIndex() < cboPrices[kItemPrices].ListCount())
-        cboPrices[kItemPrices].SetListIndex(lstItems.ListIndex());
+    cboPrices[kItemPrices].SetListIndex(lstItems.ListIndex());
 }
 
 void frmWorkOrder::lstServices_Click() {
-    if (lstServices.ListIndex() < cboPrices[kServicePrices].ListCount())
-        cboPrices[kServicePrices].SetListIndex(lstServices.ListIndex());
+    cboPrices[kServicePrices].SetListIndex(lstServices.ListIndex());
 }
 
 void frmWorkOrder::AddChosen(ListBox& from, ComboBox& prices, ListBox& chosen,
                              ListBox& chosenPrices) {
+    // With no row chosen in the list there is nothing to add.
+    if (from.ListIndex() < 0) return;
     const std::string text = from.Text();
     if (Holds(chosen, text)) {
         AlarmBeep();
@@ -229,9 +229,8 @@ void frmWorkOrder::cmdWO_Click(int index) {
             fraAccount.SetVisible(false);
             break;
         case kClearLists:
-            for (ListBox* list : {&lstItems, &lstServices})
-                for (int i = 0; i < list->ListCount(); ++i)
-                    if (list->Selected(i)) list->SetSelected(i, false);
+            lstItems.SetListIndex(-1);
+            lstServices.SetListIndex(-1);
             ClearPartsList();
             break;
         case kAddService:
@@ -333,10 +332,6 @@ void frmWorkOrder::PrintDocuments() {
         cmdWO_Click(kMenu);
         if (ckCompletion.Value() == 1) PrintSummaryBeside();
     } catch (const RuntimeError& e) {
-        Printer().KillDoc();
-        if (e.Number() == cdlCancel)
-            MsgBox("The Work Order will not be Printed");
-        else
-            MsgBox("A Print Error has occurred", vbOKOnly + vbCritical, "Print Error");
+        ReportPrintFailure(e);
     }
 }

@@ -17,6 +17,7 @@
 #include "setup/SetupHooks.h"
 #include "setup/frmSetup.h"
 #include "store/SharedState.h"
+#include "support/ScreenTesting.h"
 #include "support/TestFolder.h"
 
 namespace contacts_tests {
@@ -56,10 +57,7 @@ class frmDialerStandIn : public platform::Form {
     platform::Label lblNumber{*this, "lblNumber"};
 };
 
-template <typename T>
-void Register() {
-    platform::Forms::RegisterFactory(T::kName, [] { return std::make_unique<T>(); });
-}
+using testing_support::TypeInto;
 
 // A program folder after set-up, with the contact screen known by name.
 class ContactsTest : public ::testing::Test {
@@ -69,18 +67,14 @@ class ContactsTest : public ::testing::Test {
         ExitProgramHook = nullptr;
         ShowMainMenuHook = nullptr;
         ProbeModemHook = nullptr;
-        platform::QueuedDialogs().ClearQueue();
-        platform::QueuedDialogs().ClearShown();
-        platform::RecordingPrinter().Clear();
-        platform::Printer().Reset();
-        platform::SharedDialog() = platform::CommonDialog{};
+        testing_support::ResetPrintingAndDialogs();
         folder.MakeDirs("Backup");
         BusinessData = {"Acme Builders", "1 Main St", "", "Springfield", "IL", "62701",
                         "217-555-0100",  "",          ""};
         SoundAlarms = true;
         MenuRoutine = 7;
-        Register<frmSetup>();
-        Register<frmContacts>();
+        testing_support::RegisterScreen<frmSetup>();
+        testing_support::RegisterScreen<frmContacts>();
         platform::Screen<frmSetup>().Load();
     }
 
@@ -106,24 +100,11 @@ class ContactsTest : public ::testing::Test {
 
     std::string Read(const std::string& relative) const { return folder.Read(relative); }
     bool Exists(const std::string& relative) const { return folder.Exists(relative); }
-    std::vector<std::string> BoxTexts() {
-        std::vector<std::string> texts;
-        for (const auto& box : folder.Ui().Boxes())
-            texts.push_back("[" + box.title + "] " + box.prompt);
-        return texts;
-    }
+    std::vector<std::string> BoxTexts() { return testing_support::BoxTexts(folder.Ui()); }
     void Answer(int answer) { folder.Ui().QueueAnswer(answer); }
 
     testing_support::TestFolder folder;
 };
-
-// Typing into a box as the user does: what it holds is selected and typed over.
-template <typename Box>
-void TypeInto(Box& box, const std::string& text) {
-    box.SetSelStart(0);
-    box.SetSelLength(static_cast<int>(box.Text().size()));
-    box.TypeText(text);
-}
 
 // Record n (from 1) of a file's bytes.
 inline std::string RecordOf(const std::string& file, size_t n) {

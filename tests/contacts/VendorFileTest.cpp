@@ -171,7 +171,7 @@ TEST_F(VendorFileTest, LeavingSavesTheRecordOnDisplayEvenUnchanged) {
 
 TEST_F(VendorFileTest, TheDialLinkHandsTheNameAndTelephoneToTheDialler) {
     WriteThree();
-    Register<frmDialerStandIn>();
+    testing_support::RegisterScreen<frmDialerStandIn>();
     platform::Screen<frmSetup>().ckPhone.SetValue(1);
     frmContacts& form = Open();
     EXPECT_TRUE(form.imgPhone.Visible());

@@ -20,6 +20,7 @@
 #include "setup/SetupHooks.h"
 #include "setup/frmSetup.h"
 #include "store/SharedState.h"
+#include "support/ScreenTesting.h"
 #include "support/TestFolder.h"
 #include "workorders/frmWorkOrder.h"
 
@@ -61,10 +62,7 @@ inline std::string CustomItemBytes(const std::string& description, std::int64_t 
     return w.Bytes();
 }
 
-template <typename T>
-void Register() {
-    platform::Forms::RegisterFactory(T::kName, [] { return std::make_unique<T>(); });
-}
+using testing_support::TypeInto;
 
 // A program folder after set-up, with an account handed over by the customer screen.
 class WorkOrderTest : public ::testing::Test {
@@ -76,20 +74,16 @@ class WorkOrderTest : public ::testing::Test {
         ExitProgramHook = nullptr;
         ShowMainMenuHook = nullptr;
         ProbeModemHook = nullptr;
-        platform::QueuedDialogs().ClearQueue();
-        platform::QueuedDialogs().ClearShown();
-        platform::RecordingPrinter().Clear();
-        platform::Printer().Reset();
-        platform::SharedDialog() = platform::CommonDialog{};
+        testing_support::ResetPrintingAndDialogs();
         folder.MakeDirs("Backup");
         folder.MakeDirs("Templates");
         BusinessData = {"Acme Builders", "1 Main St", "", "Springfield", "IL", "62701",
                         "217-555-0100",  "",          ""};
         SoundAlarms = true;
         MenuRoutine = 2;
-        Register<frmSetup>();
-        Register<frmCustomer>();
-        Register<frmWorkOrder>();
+        testing_support::RegisterScreen<frmSetup>();
+        testing_support::RegisterScreen<frmCustomer>();
+        testing_support::RegisterScreen<frmWorkOrder>();
         platform::Screen<frmSetup>().Load();
         platform::Screen<frmSetup>().cmdAddress.SetCaption(kUsaStyle);
         HandAccount();
@@ -138,12 +132,7 @@ class WorkOrderTest : public ::testing::Test {
 
     std::string Read(const std::string& relative) const { return folder.Read(relative); }
     bool Exists(const std::string& relative) const { return folder.Exists(relative); }
-    std::vector<std::string> BoxTexts() {
-        std::vector<std::string> texts;
-        for (const auto& box : folder.Ui().Boxes())
-            texts.push_back("[" + box.title + "] " + box.prompt);
-        return texts;
-    }
+    std::vector<std::string> BoxTexts() { return testing_support::BoxTexts(folder.Ui()); }
     void Answer(int answer) { folder.Ui().QueueAnswer(answer); }
 
     testing_support::TestFolder folder;
