@@ -14,6 +14,7 @@
 #include "setup/frmSetup.h"
 #include "store/BasicDiskRoutines.h"
 #include "store/SharedState.h"
+#include "telephony/DialerLink.h"
 
 using namespace platform;
 using contacts::kVendorFile;
@@ -547,12 +548,7 @@ void frmContacts::mnuView_Click() {
 
 void frmContacts::imgPhone_Click() {
     // A contact has one number to dial, its telephone.
-    if (!Forms::Known("frmDialer")) return;
-    Form& dialer = Forms::Get("frmDialer");
-    if (Control* name = dialer.Find("lblName")) name->SetCaption(txtContact[kNameBox].Text());
-    if (Control* number = dialer.Find("lblNumber"))
-        number->SetCaption(Trim(txtContact[kTelephoneBox].Text()));
-    dialer.Show(vbModal);
+    ShowDialer(txtContact[kNameBox].Text(), Trim(txtContact[kTelephoneBox].Text()));
 }
 
 void frmContacts::cmdPrintContacts_Click() {
