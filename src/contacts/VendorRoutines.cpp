@@ -70,7 +70,6 @@ void DeleteVendor(std::int32_t recordNo, std::int32_t count) {
     const size_t at = static_cast<size_t>(std::max(recordNo - 1, 0)) * length;
     if (recordNo >= 1 && at < records.size()) records.erase(at, length);
     if (!records.empty()) PutRecords(copy, 1, records);
-    CloseAll();
-    DeleteFile(kVendorFile);
-    Name(DataPath(kScratchFile), DataPath(kVendorFile));
+    // The packed copy takes the file's place in one rename.
+    ReplaceWithScratch(kScratchFile, kVendorFile);
 }
