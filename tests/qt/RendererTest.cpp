@@ -23,8 +23,13 @@
 #include <filesystem>
 #include <fstream>
 
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include "DemoForm.h"
 #include "QtFixture.h"
+#include "platform/Files.h"
+#include "platform/InstanceLock.h"
 
 using namespace qt_testing;
 using platform::Dispatch;
@@ -386,9 +391,14 @@ TEST_F(RendererTest, MessageBoxesCarryTheSystemsButtonsAndAnswers) {
 TEST_F(RendererTest, OnlyTheFirstInstanceOfAFolderHoldsTheClaim) {
     EXPECT_FALSE(backend.PrevInstance());
     EXPECT_FALSE(backend.PrevInstance());  // the claim stays with the first caller
-    platform::qt::QtBackend second;
-    EXPECT_TRUE(second.PrevInstance());
-    platform::SetBackend(&backend);
+    // The claim is the process's: a second program on the folder is another process.
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) ::_exit(platform::ClaimProgramFolder(platform::AppFolder()) ? 0 : 1);
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFEXITED(status));
+    EXPECT_EQ(WEXITSTATUS(status), 1) << "a second process took the folder";
 }
 
 // The desktop's URL handler opens addresses; where it finds no browser the user is told the
