@@ -7,6 +7,7 @@
 #include <fstream>
 #include <string>
 
+#include "BenchSupport.h"
 #include "blocked/frmBlock.h"
 #include "platform/Files.h"
 #include "platform/Form.h"
@@ -18,14 +19,12 @@
 namespace fs = std::filesystem;
 using namespace platform;
 
+using bench::WriteFile;
+
 namespace {
 
 constexpr int kTeams = 40;
 constexpr int kYear = 2026;
-
-void WriteFile(const fs::path& path, const std::string& bytes) {
-    std::ofstream(path, std::ios::binary) << bytes;
-}
 
 void BuildOffice(const fs::path& root) {
     fs::remove_all(root);
@@ -48,10 +47,7 @@ void BuildOffice(const fs::path& root) {
 
 template <typename Action>
 double Time(Action action) {
-    const auto start = std::chrono::steady_clock::now();
-    Dispatch(action);
-    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
-        .count();
+    return bench::Time(action);
 }
 
 }  // namespace

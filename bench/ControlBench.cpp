@@ -7,6 +7,7 @@
 #include <fstream>
 #include <string>
 
+#include "BenchSupport.h"
 #include "control/ProjectTables.h"
 #include "control/frmProjectControl.h"
 #include "frame/SubMain.h"
@@ -20,16 +21,14 @@
 namespace fs = std::filesystem;
 using namespace platform;
 
+using bench::WriteFile;
+
 namespace {
 
 constexpr int kProjects = 300;
 constexpr int kMilestones = 20;
 constexpr int kTeams = 40;
 constexpr int kCascade = 10;  // milestones 3 to 12 wait for the one before them
-
-void WriteFile(const fs::path& path, const std::string& bytes) {
-    std::ofstream(path, std::ios::binary) << bytes;
-}
 
 DateTime NextWeekday(DateTime date) {
     while (date.Weekday() == 1 || date.Weekday() == 7) date = date.AddDays(1);
@@ -45,15 +44,7 @@ std::string BlockDay(const std::string& text) {
 
 void BuildOffice(const fs::path& root) {
     fs::create_directories(root / "ConstructionProjects");
-    std::string teams;
-    for (int t = 1; t <= kTeams; ++t) teams += "\"Crew " + std::to_string(t) + "\"\r\n";
-    WriteFile(root / "Assignto.txt", teams);
-    WriteFile(root / "NorvaxConstructionSchedulerSettings.txt",
-              "8\r\n5\r\n\"\"\r\n\"\"\r\n#TRUE#\r\n");
-    WriteFile(root / "MyBusinessData.txt",
-              "\"Acme\",\"1 Main St\",\"\",\"Springfield\",\"IL\",\"62701\",\"217-555-0100\","
-              "\"\",\"\"\r\n");
-    WriteFile(root / "Characteristics.txt", "\"Framing\",2,2,0,0\r\n");
+    bench::WriteSetUpOffice(root, kTeams);
     WriteFile(root / "CustomerData.txt", "A100" + std::string(324, ' '));
     for (int y = 2026; y <= 2027; ++y)
         for (int t = 1; t <= kTeams; ++t)
@@ -87,10 +78,7 @@ void BuildOffice(const fs::path& root) {
 
 template <typename F>
 double Timed(F&& action) {
-    const auto start = std::chrono::steady_clock::now();
-    Dispatch(std::forward<F>(action));
-    const auto end = std::chrono::steady_clock::now();
-    return std::chrono::duration<double, std::milli>(end - start).count();
+    return bench::Time(action);
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <functional>
 #include <string>
 
+#include "BenchSupport.h"
 #include "customers/frmCustomer.h"
 #include "frame/SubMain.h"
 #include "platform/Files.h"
@@ -19,13 +20,11 @@
 namespace fs = std::filesystem;
 using namespace platform;
 
+using bench::WriteFile;
+
 namespace {
 
 constexpr int kAccounts = 10000;
-
-void WriteFile(const fs::path& path, const std::string& bytes) {
-    std::ofstream(path, std::ios::binary) << bytes;
-}
 
 std::string Account(int i) {
     const bool business = i % 3 == 0;
@@ -74,10 +73,7 @@ void BuildBook(const fs::path& root) {
 }
 
 double Time(const std::function<void()>& action) {
-    const auto start = std::chrono::steady_clock::now();
-    Dispatch(action);
-    const auto end = std::chrono::steady_clock::now();
-    return std::chrono::duration<double, std::milli>(end - start).count();
+    return bench::Time(action);
 }
 
 bool Report(const char* action, double ms, double limit = 100) {

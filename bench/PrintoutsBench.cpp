@@ -7,6 +7,7 @@
 #include <fstream>
 #include <string>
 
+#include "BenchSupport.h"
 #include "control/frmProjectControl.h"
 #include "customers/frmCustomer.h"
 #include "frame/SubMain.h"
@@ -24,6 +25,8 @@
 namespace fs = std::filesystem;
 using namespace platform;
 
+using bench::WriteFile;
+
 namespace {
 
 constexpr int kTeams = 40;
@@ -31,10 +34,6 @@ constexpr int kSlips = 5000;
 constexpr int kProjects = 300;
 constexpr int kMilestones = 20;
 constexpr int kAccounts = 5000;
-
-void WriteFile(const fs::path& path, const std::string& bytes) {
-    std::ofstream(path, std::ios::binary) << bytes;
-}
 
 std::string Pad(std::string text, size_t length) {
     text.resize(length, ' ');
@@ -52,15 +51,7 @@ std::string Record(const std::string& key, int team, const std::string& date, in
 
 void BuildOffice(const fs::path& root) {
     fs::create_directories(root / "ConstructionProjects");
-    std::string teams;
-    for (int t = 1; t <= kTeams; ++t) teams += "\"Crew " + std::to_string(t) + "\"\r\n";
-    WriteFile(root / "Assignto.txt", teams);
-    WriteFile(root / "NorvaxConstructionSchedulerSettings.txt",
-              "8\r\n5\r\n\"\"\r\n\"\"\r\n#TRUE#\r\n");
-    WriteFile(root / "MyBusinessData.txt",
-              "\"Acme\",\"1 Main St\",\"\",\"Springfield\",\"IL\",\"62701\",\"217-555-0100\","
-              "\"\",\"\"\r\n");
-    WriteFile(root / "Characteristics.txt", "\"Framing\",2,2,0,0\r\n");
+    bench::WriteSetUpOffice(root, kTeams);
     std::string accounts;
     for (int a = 1; a <= kAccounts; ++a)
         accounts += Pad("A" + std::to_string(a), 20) + Pad("Customer " + std::to_string(a), 45) +
@@ -109,10 +100,7 @@ void BuildOffice(const fs::path& root) {
 
 template <typename F>
 double Timed(F&& action) {
-    const auto start = std::chrono::steady_clock::now();
-    Dispatch(std::forward<F>(action));
-    const auto end = std::chrono::steady_clock::now();
-    return std::chrono::duration<double, std::milli>(end - start).count();
+    return bench::Time(action);
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include <functional>
 #include <string>
 
+#include "BenchSupport.h"
 #include "frame/SubMain.h"
 #include "platform/FileSafety.h"
 #include "platform/Files.h"
@@ -27,16 +28,14 @@
 namespace fs = std::filesystem;
 using namespace platform;
 
+using bench::WriteFile;
+
 namespace {
 
 constexpr int kTeams = 40;
 constexpr int kYear = 2026;
 constexpr int kDays = 366;
 constexpr int kProjects = 300;
-
-void WriteFile(const fs::path& path, const std::string& bytes) {
-    std::ofstream(path, std::ios::binary) << bytes;
-}
 
 std::string Padded(std::string text, size_t length) {
     text.resize(length, ' ');
@@ -89,10 +88,7 @@ void BuildOffice(const fs::path& root) {
 }
 
 double Time(const std::function<void()>& action) {
-    const auto start = std::chrono::steady_clock::now();
-    action();
-    const auto end = std::chrono::steady_clock::now();
-    return std::chrono::duration<double, std::milli>(end - start).count();
+    return bench::MillisecondsOf(action);
 }
 
 double Shell(const std::string& command) {

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <string>
 
+#include "BenchSupport.h"
 #include "frame/SubMain.h"
 #include "platform/Files.h"
 #include "platform/Form.h"
@@ -16,15 +17,13 @@
 namespace fs = std::filesystem;
 using namespace platform;
 
+using bench::WriteFile;
+
 namespace {
 
 constexpr int kCustomers = 10000;
 constexpr int kTeams = 40;
 constexpr int kYear = 2026;
-
-void WriteFile(const fs::path& path, const std::string& bytes) {
-    std::ofstream(path, std::ios::binary) << bytes;
-}
 
 void BuildOffice(const fs::path& root) {
     fs::create_directories(root);

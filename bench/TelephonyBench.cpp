@@ -10,6 +10,7 @@
 #include <functional>
 #include <string>
 
+#include "BenchSupport.h"
 #include "frame/SubMain.h"
 #include "platform/Files.h"
 #include "platform/Form.h"
@@ -23,16 +24,14 @@
 namespace fs = std::filesystem;
 using namespace platform;
 
+using bench::WriteFile;
+
 namespace {
 
 constexpr int kCustomers = 10000;
 constexpr int kOldCalls = 5000;
 constexpr int kSlips = 3000;
 constexpr int kTicks = 200;
-
-void WriteFile(const fs::path& path, const std::string& bytes) {
-    std::ofstream(path, std::ios::binary) << bytes;
-}
 
 std::string Phone(int i) {
     char phone[16];
@@ -79,10 +78,7 @@ void BuildFolder(const fs::path& root) {
 }
 
 double Time(const std::function<void()>& action) {
-    const auto start = std::chrono::steady_clock::now();
-    Dispatch(action);
-    const auto end = std::chrono::steady_clock::now();
-    return std::chrono::duration<double, std::milli>(end - start).count();
+    return bench::Time(action);
 }
 
 bool Report(const char* action, double ms, double limit) {
