@@ -171,6 +171,9 @@ void CheckPrevInstance() {
 
 void FinishInterruptedWork() {
     FinishJournal();
+    // Temporaries are only ever left by a run that died: after an orderly end the walk
+    // through years of day files and thousands of accounts is spared.
+    if (!EarlierRunDied(AppFolder())) return;
     for (const std::string& folder : Dir(AppFolder() + "/*", true)) {
         // The user's documents and the folders of other programs are not the program's own.
         if (folder == "Documents" || folder == "NorvaxProposals") continue;

@@ -14,6 +14,9 @@ constexpr const char* kInstanceLockSuffix = ".lock";
 // this process holds already is simply kept. A folder where no lock can be taken (no file
 // may be made there) is not guarded.
 bool ClaimProgramFolder(const std::string& folder);
+// Whether the run before this one on a folder this process claimed died without ending (its
+// temporary files may still lie about); true where that is not known.
+bool EarlierRunDied(const std::string& folder);
 // Gives every claim of this process up (for tests that play a second process).
 void ReleaseProgramFolders();
 

@@ -31,6 +31,7 @@ TEST(InstanceLock, OneProcessAProgramFolderThroughAnyPathToIt) {
     const std::string path = folder.Path().string();
 
     EXPECT_TRUE(ClaimProgramFolder(path));
+    EXPECT_FALSE(EarlierRunDied(path));              // the first run of all
     EXPECT_TRUE(ClaimProgramFolder(link.string()));  // this process holds it already
     EXPECT_TRUE(ClaimProgramFolder(path));
     EXPECT_FALSE(OtherProcessClaims(path));
@@ -41,6 +42,11 @@ TEST(InstanceLock, OneProcessAProgramFolderThroughAnyPathToIt) {
     EXPECT_TRUE(OtherProcessClaims(link.string()));
     // The other process has ended, and with it its claim: a crashed run locks nobody out.
     EXPECT_TRUE(ClaimProgramFolder(path));
+    // It ended without giving the folder up: its temporaries may lie about.
+    EXPECT_TRUE(EarlierRunDied(path));
+    ReleaseProgramFolders();
+    EXPECT_TRUE(ClaimProgramFolder(link.string()));
+    EXPECT_FALSE(EarlierRunDied(path));
     ReleaseProgramFolders();
     std::filesystem::remove(link);
 }
