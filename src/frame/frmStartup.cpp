@@ -72,6 +72,8 @@ frmStartup::frmStartup() : Form(kName) {
         opt.SetContainer("fraRoutines");
         opt.Move(240, 300 + i * 440, 6240, 375);
     }
+    optProgramRoutine[4].SetToolTipText("Record incoming calls while away");
+    optProgramRoutine[5].SetToolTipText("Call Accts, about upcoming Service");
     cmdStart.SetCaption("&Start");
     cmdStart.SetDefault(true);
     cmdStart.Move(2520, 5940, 2160, 495);
