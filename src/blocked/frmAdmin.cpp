@@ -19,7 +19,6 @@ constexpr int kLoadGrid = 3, kNextYear = 5, kNextMonth = 6, kNextQuarter = 7;
 constexpr int kMenu = 0, kPrint = 1;
 constexpr int kAdministrative = 1;
 // The printer dialogue: no page numbers, collate, no print to file (a PDF printer serves).
-constexpr int kPrinterDialogFlags = cdlPDNoPageNums | cdlPDCollate | cdlPDHidePrintToFile;
 
 // Prints at x inches on the present line and stays on it.
 void PrintAt(float x, const std::string& text) {
@@ -155,15 +154,15 @@ void frmAdmin::LoadAdminEvents() {
 }
 
 void frmAdmin::PrintAdminEvents() {
+    // The list goes straight to the printer as it is set up: no printer dialogue is asked.
     try {
-        if (!ShowPrinterDialog(kPrinterDialogFlags)) return;
         InitPrinter("Portrait", PrintSettingColor());
         PrintAdminHeader();
         PrintAdminRows();
         Printer().EndDoc();
     } catch (const RuntimeError& e) {
         if (Printer().DocumentOpen()) Printer().KillDoc();
-        if (e.Number() != cdlCancel) MsgBox("A Print Error has occurred", vbOKOnly, "Print Error");
+        MsgBox("A Print Error has occurred", vbOKOnly, "Print Error");
     }
 }
 

@@ -1,6 +1,7 @@
 #include "printing/WorkSchedulePrintout.h"
 
 #include "platform/Dialogs.h"
+#include "platform/Numbers.h"
 #include "platform/Printer.h"
 #include "platform/RuntimeError.h"
 #include "platform/Ui.h"
@@ -186,8 +187,10 @@ void PrintWorkSchedules(frmMain& form) {
         ShowPrintError();
         return;
     }
-    const int chosen = form.lstTeam.ListIndex();
-    if (chosen < 0) return;
+    // With no entry chosen yet, the team whose day the grid shows is printed.
+    int chosen = form.lstTeam.ListIndex();
+    if (chosen < 0) chosen = CInt(Val(CurrentTeam)) - 1;
+    if (chosen < 0 || chosen >= form.lstTeam.ListCount()) return;
     const bool allTeams = chosen == form.lstTeam.ListCount() - 1;
     const int firstTeam = allTeams ? chosen : chosen + 1;
     const int lastTeam = allTeams ? 1 : chosen + 1;

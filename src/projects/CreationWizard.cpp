@@ -85,7 +85,7 @@ void EnterScreen(frmMain& form) {
     ResetControls(form);
 
     form.SlotSelection = kNoSlotSelected;
-    form.MonthView1.SetValue(NextWorkday(DefaultStartDate(), 0));
+    SetCalendarDate(form, NextWorkday(DefaultStartDate(), 0));
     CurrentDate = form.MonthView1.Value();
 
     if (MenuRoutine == 1) {
@@ -150,8 +150,11 @@ void EnterScreen(frmMain& form) {
     for (int n = 1; n <= TeamCount(); ++n) teams.AddItem(TeamNames[static_cast<size_t>(n)]);
     teams.AddItem("All Teams");
     form.UpDnTeam.SetMax(TeamCount());
+    // A new project starts on the first team, as its first milestone does; the team schedule
+    // waits for the user's choice.
+    if (MenuRoutine == 1 && TeamCount() > 0) teams.SetListIndex(0);
     const int team = CInt(Val(CurrentTeam));
-    teams.SetListIndex(team >= 1 && team <= TeamCount() ? team - 1 : 0);
+    if (team < 1 || team > TeamCount()) CurrentTeam = "1";
     form.cmdHourly_Click();
     for (int i = 1; i <= 7; ++i) form.txtCustomerInfo[i].SetText(form.lblCustomerInfo[i].Caption());
     form.cmdSetJobSite.SetCaption(kToggleClear);

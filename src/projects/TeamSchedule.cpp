@@ -82,13 +82,25 @@ void OpenSlip() {
 
 }  // namespace
 
+void SetCalendarDate(frmMain& form, DateTime date) {
+    struct Quiet {
+        bool& flag;
+        const bool before;
+        ~Quiet() { flag = before; }
+    } quiet{form.CalendarSetByProgram, form.CalendarSetByProgram};
+    form.CalendarSetByProgram = true;
+    form.MonthView1.SetValue(date);
+    form.MonthView1.SetToolTipText(
+        DayNames[static_cast<size_t>(form.MonthView1.Value().Weekday())]);
+}
+
 void ShowCalendarDate(frmMain& form, DateTime date) {
     MonthView& calendar = form.MonthView1;
-    calendar.SetValue(NextWorkday(date, 0));
-    if (calendar.Value() == Today()) calendar.SetValue(DefaultStartDate());
+    SetCalendarDate(form, NextWorkday(date, 0));
+    if (calendar.Value() == Today()) SetCalendarDate(form, DefaultStartDate());
     int year = calendar.Value().Year();
     CheckYear(year);
-    calendar.SetValue(NextWorkday(calendar.Value(), 0));
+    SetCalendarDate(form, NextWorkday(calendar.Value(), 0));
     CurrentDate = calendar.Value();
     TodayDayNumber = CurrentDate.DayOfYear();
     form.lblDate.SetCaption(ShortDate(CurrentDate));
@@ -220,10 +232,10 @@ void PickMonthBox(frmMain& form, int index) {
         DateTime::FromYmd(shown.Year(), shown.Month(), 1).AddDays(index - firstBox);
     if (date < form.MonthView1.MinDate()) {
         MsgBox("Date cannot be before Today", vbOKOnly, "Invalid date");
-        form.MonthView1.SetValue(Today());
+        SetCalendarDate(form, Today());
         return;
     }
-    form.MonthView1.SetValue(date);
+    SetCalendarDate(form, date);
     ShowCalendarDate(form, date);
 }
 

@@ -22,6 +22,9 @@ extern std::string SlipTeam;     // the team's name
 void ShowCalendarDate(frmMain& form, platform::DateTime date);
 // The calendar's change: the day labels, the month of the team, and the day if it is busy.
 void CalendarChanged(frmMain& form);
+// Sets the calendar's date without the change event: that event answers the user's clicks
+// (and the spinner, which runs it on purpose), not dates the program proposes.
+void SetCalendarDate(frmMain& form, platform::DateTime date);
 // One step of the calendar's spinner.
 void StepCalendar(frmMain& form, bool up);
 // The team chosen in lstTeam becomes CurrentTeam.

@@ -524,7 +524,7 @@ void frmMain::UpDnTeam_DownClick() {
 }
 
 void frmMain::MonthView1_SelChange() {
-    CalendarChanged(*this);
+    if (!CalendarSetByProgram) CalendarChanged(*this);
 }
 
 void frmMain::MonthView1_DateClick() {

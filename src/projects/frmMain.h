@@ -128,6 +128,8 @@ class frmMain : public platform::Form {
     std::int16_t CreationMode = 0;  // 0 project data; 1, 2, 3 scheduling; 5 summary
     std::int32_t CurrentMilestone = 1;
     std::string SlotSelection = "No Slot Selected";
+    // While the program itself sets the calendar's date, its change event stays quiet.
+    bool CalendarSetByProgram = false;
 
     // ---- Handlers
     void Form_Load();

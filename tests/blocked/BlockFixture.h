@@ -13,6 +13,7 @@
 #include "schedule/Teams.h"
 #include "setup/SetupHooks.h"
 #include "store/SharedState.h"
+#include "support/ScreenTesting.h"
 #include "support/TestFolder.h"
 
 // Three teams on a Monday-to-Friday week, Monday 15 June 2026 at 09:00, and the blocked-days
@@ -28,8 +29,7 @@ class BlockTest : public ::testing::Test {
         StartHour = 8;
         SoundAlarms = true;
         CurrentYearText = "2026";
-        platform::QueuedDialogs().ClearQueue();
-        platform::QueuedDialogs().ClearShown();
+        testing_support::ResetPrintingAndDialogs();
         folder.Write("Assignto.txt", "\"Crew A\"\r\n\"Crew B\"\r\n\"Crew C\"\r\n");
         LoadAssignments();
         MakeYearTree("2026");

@@ -10,18 +10,15 @@
 #include "customers/frmCustomer.h"
 #include "customers/frmCustomerSelection.h"
 #include "platform/ControlArray.h"
-#include "platform/Dialogs.h"
 #include "platform/Form.h"
-#include "platform/Printer.h"
 #include "platform/Records.h"
 #include "platform/RuntimeError.h"
 #include "platform/Ui.h"
-#include "platform/headless/HeadlessDialogs.h"
-#include "platform/headless/HeadlessPrinter.h"
 #include "setup/BusinessRoutines.h"
 #include "setup/SetupHooks.h"
 #include "setup/frmSetup.h"
 #include "store/SharedState.h"
+#include "support/ScreenTesting.h"
 #include "support/TestFolder.h"
 
 namespace customers_tests {
@@ -115,9 +112,10 @@ class frmDialerStandIn : public platform::Form {
     platform::Label lblNumber{*this, "lblNumber"};
 };
 
+using testing_support::TypeInto;
 template <typename T>
 void Register() {
-    platform::Forms::RegisterFactory(T::kName, [] { return std::make_unique<T>(); });
+    testing_support::RegisterScreen<T>();
 }
 
 // A program folder after set-up, with the customer screens known by name.
@@ -130,11 +128,7 @@ class CustomersTest : public ::testing::Test {
         ExitProgramHook = nullptr;
         ShowMainMenuHook = nullptr;
         ProbeModemHook = nullptr;
-        platform::QueuedDialogs().ClearQueue();
-        platform::QueuedDialogs().ClearShown();
-        platform::RecordingPrinter().Clear();
-        platform::Printer().Reset();
-        platform::SharedDialog() = platform::CommonDialog{};
+        testing_support::ResetPrintingAndDialogs();
         folder.MakeDirs("Backup");
         folder.MakeDirs("AuxFiles");
         BusinessData = {"Acme Builders", "1 Main St", "", "Springfield", "IL", "62701",
@@ -179,28 +173,11 @@ class CustomersTest : public ::testing::Test {
     std::string Read(const std::string& relative) const { return folder.Read(relative); }
     bool Exists(const std::string& relative) const { return folder.Exists(relative); }
     const std::vector<platform::HeadlessBackend::ShownBox>& Boxes() { return folder.Ui().Boxes(); }
-    std::vector<std::string> BoxTexts() {
-        std::vector<std::string> texts;
-        for (const auto& box : Boxes()) texts.push_back("[" + box.title + "] " + box.prompt);
-        return texts;
-    }
+    std::vector<std::string> BoxTexts() { return testing_support::BoxTexts(folder.Ui()); }
     void Answer(int answer) { folder.Ui().QueueAnswer(answer); }
 
     testing_support::TestFolder folder;
 };
-
-// Typing into a box as the user does: what it holds is selected and typed over.
-inline void TypeInto(platform::TextBox& box, const std::string& text) {
-    box.SetSelStart(0);
-    box.SetSelLength(static_cast<int>(box.Text().size()));
-    box.TypeText(text);
-}
-
-inline void TypeInto(platform::ComboBox& box, const std::string& text) {
-    box.SetSelStart(0);
-    box.SetSelLength(static_cast<int>(box.Text().size()));
-    box.TypeText(text);
-}
 
 // Record n (from 1) of a file's bytes.
 inline std::string RecordOf(const std::string& file, size_t length, size_t n) {

@@ -9,21 +9,13 @@
 #include <unistd.h>
 
 using namespace platform;
+using testing_support::ErrorOf;
 using testing_support::TestFolder;
 
 namespace {
 
 std::string P(const std::string& rel) {
     return AppFolder() + rel;
-}
-
-int ErrorOf(const std::function<void()>& f) {
-    try {
-        f();
-    } catch (const RuntimeError& e) {
-        return e.Number();
-    }
-    return 0;
 }
 
 }  // namespace

@@ -11,18 +11,10 @@
 #include "support/TestFolder.h"
 
 using namespace platform;
+using testing_support::ErrorOf;
 using testing_support::TestFolder;
 
 namespace {
-
-int ErrorOf(const std::function<void()>& f) {
-    try {
-        f();
-    } catch (const RuntimeError& e) {
-        return e.Number();
-    }
-    return 0;
-}
 
 struct NumberCase {
     std::string text;

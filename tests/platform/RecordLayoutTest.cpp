@@ -12,6 +12,7 @@
 #include "support/TestFolder.h"
 
 using namespace platform;
+using testing_support::ErrorOf;
 using testing_support::TestFolder;
 
 namespace {
@@ -35,15 +36,6 @@ static_assert(!RecordLayout("size", kWrongSize, 4).Valid());
 static_assert(!RecordLayout("twice", kTwice, 4).Valid());
 static_assert(!RecordLayout("short", kSampleFields, 44).Valid());
 static_assert(contacts::kVendorRecord.Length() == 235);
-
-int ErrorOf(const std::function<void()>& f) {
-    try {
-        f();
-    } catch (const RuntimeError& e) {
-        return e.Number();
-    }
-    return 0;
-}
 
 }  // namespace
 

@@ -13,6 +13,7 @@
 #include "platform/headless/HeadlessDialogs.h"
 #include "platform/headless/HeadlessPrinter.h"
 #include "store/SharedState.h"
+#include "support/ScreenTesting.h"
 #include "support/TestFolder.h"
 
 namespace printing_tests {
@@ -42,8 +43,7 @@ inline double LineHeight(double points) {
 class PrintingTest : public ::testing::Test {
   protected:
     PrintingTest() {
-        platform::Forms::RegisterFactory(SetupStandIn::kName,
-                                         [] { return std::make_unique<SetupStandIn>(); });
+        testing_support::RegisterScreen<SetupStandIn>();
         setup = &static_cast<SetupStandIn&>(platform::Forms::Get(SetupStandIn::kName));
         setup->ckColor.SetValue(1);
         setup->txtBorders.SetBackColor(kBorderGreen);
@@ -53,11 +53,7 @@ class PrintingTest : public ::testing::Test {
         setup->Image3.Move(0, 0, 1440, 1440);
         BusinessData = {"Acme Builders", "12 Main Street",   "", "Springfield", "IL", "62701",
                         "217-555-0100",  "FAX 217-555-0101", ""};
-        platform::Printer().Reset();
-        platform::RecordingPrinter().Clear();
-        platform::QueuedDialogs().ClearQueue();
-        platform::QueuedDialogs().ClearShown();
-        platform::SharedDialog() = platform::CommonDialog{};
+        testing_support::ResetPrintingAndDialogs();
     }
     ~PrintingTest() override {
         platform::Printer().Reset();

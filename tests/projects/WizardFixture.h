@@ -5,10 +5,10 @@
 #include <string>
 
 #include "frame/SubMain.h"
+#include "frame/frmStartup.h"
 #include "platform/Files.h"
 #include "platform/Form.h"
 #include "platform/Ui.h"
-#include "frame/frmStartup.h"
 #include "projects/frmMain.h"
 #include "schedule/SchedulerRoutines.h"
 #include "store/SharedState.h"
@@ -36,7 +36,8 @@ class WizardTest : public ::testing::Test {
         platform::Dispatch([] { SubMain(); });
     }
 
-    // The customer screens' hand-off, then the screen shown for routine 1 or 3.
+    // The customer screens' hand-off, then the screen shown for routine 1 or 3; on the team
+    // schedule the user then picks the first team.
     frmMain& Open(int routine = 1) {
         Start();
         MenuRoutine = static_cast<std::int16_t>(routine);
@@ -52,6 +53,7 @@ class WizardTest : public ::testing::Test {
         form.lblPropNo[0].SetVisible(false);
         form.lblPropNo[1].SetVisible(false);
         form.Show();
+        if (routine == 3) form.lstTeam.SetListIndex(0);
         return form;
     }
 

@@ -4,16 +4,13 @@
 
 #include <string>
 
-#include "platform/Dialogs.h"
 #include "platform/Form.h"
-#include "platform/Printer.h"
 #include "platform/Ui.h"
-#include "platform/headless/HeadlessDialogs.h"
-#include "platform/headless/HeadlessPrinter.h"
 #include "schedule/Teams.h"
 #include "setup/CharacteristicsRoutines.h"
 #include "setup/SetupHooks.h"
 #include "setup/frmSetup.h"
+#include "support/ScreenTesting.h"
 #include "support/TestFolder.h"
 
 // A program folder and the set-up screen on it, loaded and shown as at a first visit.
@@ -23,11 +20,7 @@ class SetupTest : public ::testing::Test {
         ExitProgramHook = nullptr;
         ShowMainMenuHook = nullptr;
         ProbeModemHook = nullptr;
-        platform::QueuedDialogs().ClearQueue();
-        platform::QueuedDialogs().ClearShown();
-        platform::RecordingPrinter().Clear();
-        platform::Printer().Reset();
-        platform::SharedDialog() = platform::CommonDialog{};
+        testing_support::ResetPrintingAndDialogs();
         // A fresh process: no templates in memory, and the folders start-up always makes.
         CharName.assign(1, "");
         for (auto* array : {&CharType, &CharPhase, &CharDependency, &CharLead}) array->assign(1, 0);
@@ -57,15 +50,4 @@ class SetupTest : public ::testing::Test {
     testing_support::TestFolder folder;
 };
 
-// Typing into a combo box and pressing a button, as the user does it.
-inline void TypeInto(platform::ComboBox& box, const std::string& text) {
-    box.SetSelStart(0);
-    box.SetSelLength(static_cast<int>(box.Text().size()));
-    box.TypeText(text);
-}
-
-inline void TypeInto(platform::TextBox& box, const std::string& text) {
-    box.SetSelStart(0);
-    box.SetSelLength(static_cast<int>(box.Text().size()));
-    box.TypeText(text);
-}
+using testing_support::TypeInto;

@@ -6,6 +6,7 @@
 
 #include "platform/Files.h"
 #include "platform/Form.h"
+#include "platform/RuntimeError.h"
 #include "platform/Ui.h"
 
 namespace fs = std::filesystem;
@@ -72,6 +73,15 @@ std::string FreeDayBytes() {
     std::string out;
     for (int i = 0; i < 12; ++i) out += "\"No Event Scheduled\"\r\n";
     return out;
+}
+
+int ErrorOf(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const platform::RuntimeError& e) {
+        return e.Number();
+    }
+    return 0;
 }
 
 }  // namespace testing_support

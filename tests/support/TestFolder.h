@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 
 #include "platform/DateTime.h"
@@ -38,5 +39,8 @@ class TestFolder {
 // Twelve quoted lines, as the program writes a day.
 std::string DayFileBytes(const std::string (&slots)[12]);
 std::string FreeDayBytes();
+
+// The number of the run-time error `action` stops with; 0 when it comes through.
+int ErrorOf(const std::function<void()>& action);
 
 }  // namespace testing_support
