@@ -160,7 +160,7 @@ void frmAdmin::PrintAdminEvents() {
         PrintAdminHeader();
         PrintAdminRows();
         Printer().EndDoc();
-    } catch (const RuntimeError& e) {
+    } catch (const RuntimeError&) {
         if (Printer().DocumentOpen()) Printer().KillDoc();
         MsgBox("A Print Error has occurred", vbOKOnly, "Print Error");
     }

@@ -21,7 +21,6 @@ constexpr float kHeadingTop = 0.5f;
 constexpr float kBlocksTop = 1.2f;
 constexpr double kBottomMargin = 0.5 * kTwipsPerInch;
 constexpr float kNameSize = 10;
-constexpr int kReportDialogFlags = cdlPDHidePrintToFile | cdlPDCollate | cdlPDNoPageNums;
 
 // The lines of one account's block; the address form follows the screen's.
 std::vector<std::string> BlockLines(const Record& record, bool usAddress) {
@@ -32,9 +31,8 @@ std::vector<std::string> BlockLines(const Record& record, bool usAddress) {
     if (usAddress) {
         lines.push_back(city + ", " + state + " " + code);
     } else {
-        // Each on a line of its own; an empty one (the state, abroad) leaves no gap.
-        for (const std::string& line : {city, state, code})
-            if (!line.empty()) lines.push_back(line);
+        // Each on a line of its own, the state's too, though it is blank abroad.
+        for (const std::string& line : {city, state, code}) lines.push_back(line);
     }
     return lines;
 }
@@ -84,15 +82,13 @@ void PrintCustomerReport(frmCustomer& form) {
     if (MsgBox("Click Yes to print a Customer Report", vbYesNo + vbQuestion, "Customer Report") !=
         vbYes)
         return;
+    // The report goes to the printer as it is set up: no printer dialogue is asked.
     try {
-        ShowPrinterDialog(kReportDialogFlags);
         InitPrinter("Landscape", PrintSettingColor());
         PrintBlocks(form.USAddress);
         Printer().EndDoc();
-    } catch (const RuntimeError& e) {
+    } catch (const RuntimeError&) {
         Printer().KillDoc();
-        // A cancelled printer dialogue is no error.
-        if (e.Number() != cdlCancel)
-            MsgBox("A Print Error has occurred", vbOKOnly + vbCritical, "Print Error");
+        MsgBox("A Print Error has occurred", vbOKOnly + vbCritical, "Print Error");
     }
 }

@@ -65,6 +65,13 @@ std::string FoundName(const Record& record) {
     return name;
 }
 
+std::string FoundRowName(const Record& record) {
+    if (IsBusiness(record)) return record.Trimmed("AccountName");
+    // The three parts joined by blanks as they are: no title leaves a leading blank.
+    return record.Trimmed("Title") + " " + record.Trimmed("FirstName") + " " +
+           record.Trimmed("LastName");
+}
+
 void LoadAccountLists(frmCustomer& form) {
     ClearCombo(form.cboAccounts);
     ClearCombo(form.cboCity);

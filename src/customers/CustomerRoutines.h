@@ -36,4 +36,7 @@ void MakeAuxFolders(const std::string& accountNo);
 // Names of an account as the lists show it.
 std::string ListName(const platform::Record& record);   // "Last, First" for an individual
 std::string FoundName(const platform::Record& record);  // "Title First Last" for an individual
+// The name in a row of the search results, where the parts of an individual's name are joined
+// by blanks even when one is empty.
+std::string FoundRowName(const platform::Record& record);
 bool IsBusiness(const platform::Record& record);

@@ -26,7 +26,7 @@ struct Found {
 };
 
 std::string FoundRow(std::int32_t recordNo, const Record& record) {
-    return FoundName(record) + "\t" + record.Trimmed("Telephone") + "\t" +
+    return FoundRowName(record) + "\t" + record.Trimmed("Telephone") + "\t" +
            record.Trimmed("Address1") + "\t" + record.Trimmed("City") + "\t" +
            std::to_string(recordNo);
 }

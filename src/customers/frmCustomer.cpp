@@ -363,11 +363,11 @@ void frmCustomer::cmdNav_Click(int index) {
 }
 
 void frmCustomer::cmdNew_Click() {
-    // A refused save starts nothing (cmdCustomer stays hidden): the count must not run ahead
-    // of the file.
-    if (!NewCustomer(*this)) return;
+    // A refused save stops the new record only: the screen still turns to adding, and the
+    // count, which Cancel takes from the file, never runs ahead of it.
+    cmdCustomer.SetVisible(true);
+    if (NewCustomer(*this)) txtCustomer[kAccountNoBox].SetFocus();
     ResetBillingRecords();
-    txtCustomer[kAccountNoBox].SetFocus();
     mnuAux.SetEnabled(false);
     mnuDelete.SetEnabled(false);
     mnuAdd.SetEnabled(false);
@@ -618,10 +618,9 @@ void frmCustomer::cmdSchedule_Click() {
     auto box = [&](int index) { return Trim(txtCustomer[index].Text()); };
     std::string name = box(kNameBox);
     if (lbLType.Caption() == kIndividual) {
-        name.clear();
-        for (const std::string& part :
-             {Trim(cboTitle.Text()), box(kFirstNameBox), box(kMiddleBox), box(kLastNameBox)})
-            if (!part.empty()) name += (name.empty() ? "" : " ") + part;
+        // Joined by blanks as they stand: the middle box, always empty, leaves two.
+        name = Trim(Trim(cboTitle.Text()) + " " + box(kFirstNameBox) + " " + box(kMiddleBox) + " " +
+                    box(kLastNameBox));
     }
     const std::string lines[8] = {"",
                                   name,

@@ -176,8 +176,10 @@ void frmStartup::cmdStart_Click() {
                vbInformation, "Routine Not Available");
         return;
     }
-    Forms::Get(screen).Show();
-    Unload();
+    Form& opened = Forms::Get(screen);
+    opened.Show();
+    // A screen with nothing to show sends the user straight back: the menu then stays.
+    if (opened.IsLoaded()) Unload();
 }
 
 void frmStartup::mnuCreate_Click() {

@@ -77,8 +77,10 @@ void EnableCallerIDIfAnswered() {
     DoEvents();
     IgnoringPortErrors([&] { answer = port.Input(); });
     if (answer.find("OK") == std::string::npos) return;
+    // Only a program that has never stored the option gets it from the modem: a stored choice,
+    // True or False, is the user's.
     bool stored = false;
-    if (ReadCallerIDOption(stored) && stored) return;
+    if (ReadCallerIDOption(stored)) return;
     CallerIDEnabled = true;
     SaveCallerIDOption();
 }

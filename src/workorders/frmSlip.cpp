@@ -9,6 +9,7 @@
 #include "projects/ProjectRecord.h"
 #include "projects/TeamSchedule.h"
 #include "setup/SetupHooks.h"
+#include "store/SharedState.h"
 #include "telephony/DialerLink.h"
 #include "workorders/SlipFile.h"
 
@@ -82,6 +83,8 @@ frmSlip::frmSlip() : Form(kName) {
 }
 
 void frmSlip::Form_Activate() {
+    // The dial picture is offered only with a modem to dial through.
+    imgDialer.SetVisible(PhoneConnected);
     lblServiceSlip.SetCaption(SelectedSlotText);
     ReadCallSlip();
 }

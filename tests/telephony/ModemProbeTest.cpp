@@ -138,12 +138,20 @@ TEST_F(ModemProbeTest, AModemWithoutCallerIdLeavesTheMonitorHidden) {
     EXPECT_FALSE(CallerIDEnabled);
 }
 
-TEST_F(ModemProbeTest, AStoredNoTurnsToYesOnceAModemTakesCallerId) {
-    folder.Write("CallID.txt", "#FALSE#\r\n");
+TEST_F(ModemProbeTest, AModemTakingCallerIdOffersTheMonitorUnlessTheUserSaidNo) {
     SimulatedLines().PlaceModem(4);
     Start();
     EXPECT_EQ(Read("CallID.txt"), "#TRUE#\r\n");
     EXPECT_TRUE(CallerIDEnabled);
+
+    // The next start, after the user switched the monitor off.
+    folder.Write("CallID.txt", "#FALSE#\r\n");
+    Forms::Reset();
+    SharedSerialPort().Reset();
+    ResetSharedState();
+    Start();
+    EXPECT_EQ(Read("CallID.txt"), "#FALSE#\r\n");
+    EXPECT_FALSE(CallerIDEnabled);
 }
 
 TEST_F(ModemProbeTest, WithNoModemTheStoredCallerIdFlagStandsAsItIs) {
