@@ -68,12 +68,14 @@ int MirrorFolder(const std::string& source, const std::string& target, std::stri
             wanted.erase(it);  // already shared
             continue;
         }
+        BeforeChange(to + "/" + name);
         WriteStep();
         if (unlinkat(fd, name.c_str(), 0) != 0) Raise(err::PermissionDenied, to + "/" + name);
         NoteFolderChanged(to + "/" + name);
     }
     for (const auto& [name, id] : wanted) {
         const std::string file = from + "/" + name;
+        BeforeChange(to + "/" + name);
         WriteStep();
         if (linkat(AT_FDCWD, file.c_str(), fd, name.c_str(), 0) == 0) {
             NoteFolderChanged(to + "/" + name);
@@ -83,6 +85,21 @@ int MirrorFolder(const std::string& source, const std::string& target, std::stri
         FileCopy(file, to + "/" + name);
     }
     return static_cast<int>(wanted.size());
+}
+
+void KeepOldBytes(const std::string& source, const std::string& keep, bool inPlace) {
+    const std::string from = ResolvePath(source).string();
+    const std::string to = ResolvePath(keep).string();
+    if (FileExists(to)) Kill(to);
+    if (!inPlace) {
+        WriteStep();
+        if (::link(from.c_str(), to.c_str()) == 0) {
+            NoteFolderChanged(to);
+            return;
+        }
+        if (!NoLinksHere(errno)) Raise(err::PathFileAccessError, to);
+    }
+    FileCopy(from, to);
 }
 
 }  // namespace platform

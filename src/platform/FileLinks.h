@@ -16,4 +16,10 @@ namespace platform {
 // platform's "Path not found" once there is a file to put in it. Returns the files put.
 int MirrorFolder(const std::string& source, const std::string& target, std::string_view pattern);
 
+// Gives the file `source` the second name `keep`, which holds the file's present bytes while
+// its first name is replaced by a rename or deleted: a hard link, or a copy where the file
+// system has no links or where `inPlace` says that records will be written into the file
+// itself. A file already under `keep` goes first.
+void KeepOldBytes(const std::string& source, const std::string& keep, bool inPlace);
+
 }  // namespace platform

@@ -86,7 +86,17 @@ Flusher& Disk() {
 void (*writeStepHook)() = nullptr;
 #endif
 
+ChangeWatcher changeWatcher = nullptr;
+
 }  // namespace
+
+void SetChangeWatcher(ChangeWatcher watcher) {
+    changeWatcher = watcher;
+}
+
+void BeforeChange(const fs::path& entry, EntryChange change) {
+    if (changeWatcher) changeWatcher(entry, change);
+}
 
 void SetFlushToDisk(bool on) {
     flushToDisk = on;
@@ -115,7 +125,7 @@ bool IsLeftoverTemporary(const std::string& name) {
     const size_t mark = name.rfind(".~");
     if (mark == std::string::npos || mark == 0) return false;
     const std::string tail = name.substr(mark + 2);
-    if (tail == "copy" || tail == "new") return true;
+    if (tail == "copy" || tail == "new" || tail == "old") return true;
     if (tail.empty()) return false;
     for (char c : tail)
         if (!std::isdigit(static_cast<unsigned char>(c))) return false;

@@ -24,11 +24,24 @@ void FlushAllFiles();
 
 // Temporary files of the file services are named beside their target: `X.~<process id>`
 // while sequential output is written, `X.~copy` while a copy is made, `X.~new` while the
-// new bytes of a change to several files wait for their journal. Only a process that died
-// leaves them behind.
+// new bytes of a change to several files wait for their journal, `X.~old` while the old
+// bytes wait until such a change is over. Only a process that died leaves them behind.
 bool IsLeftoverTemporary(const std::string& name);
 // Removes such files from the folder and every folder below it; returns how many went.
 int RemoveLeftoverTemporaries(const std::string& folder);
+
+// What is about to happen to a file or folder that the program changes.
+enum class EntryChange {
+    File,         // made, replaced by a rename, deleted or renamed
+    FileInPlace,  // records written into the file itself
+    Folder,       // made, removed or renamed
+};
+// While the store keeps the old state of an action's files (a change to several files whose
+// writes are not known in advance), the watcher sees each file or folder before every change
+// to it, and may keep what it holds first. Off when null.
+using ChangeWatcher = void (*)(const std::filesystem::path& entry, EntryChange change);
+void SetChangeWatcher(ChangeWatcher watcher);
+void BeforeChange(const std::filesystem::path& entry, EntryChange change = EntryChange::File);
 
 // Called before each operation that changes the disk: a write, rename, delete, link, new or
 // removed folder.

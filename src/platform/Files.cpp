@@ -7,6 +7,7 @@
 #include <fstream>
 #include <map>
 #include <memory>
+#include <set>
 #include <system_error>
 #include <unordered_map>
 
@@ -127,13 +128,30 @@ int ErrorFromSystem(int error, int otherwise) {
     }
 }
 
+// New files open for sequential output. The program sees each as an empty file from the
+// open on, as on the platform, but the disk gets it only at the close, complete: a process
+// that dies before leaves no empty file behind.
+std::set<std::string>& Unwritten() {
+    static std::set<std::string> files;
+    return files;
+}
+
+bool IsUnwritten(const std::string& path) {
+    return !Unwritten().empty() && Unwritten().count(path) > 0;
+}
+
 // What a path names on disk: nothing, a file, a folder, or something else (a pipe, a
 // device) that the data files never are.
 enum class Kind { None, File, Folder, Other };
 
 Kind KindOf(const std::string& path, struct stat* info = nullptr) {
     struct stat st {};
-    if (::stat(path.c_str(), &st) != 0) return Kind::None;
+    if (::stat(path.c_str(), &st) != 0) {
+        if (!IsUnwritten(path)) return Kind::None;
+        st.st_mode = S_IFREG | 0666;
+        if (info) *info = st;
+        return Kind::File;
+    }
     if (info) *info = st;
     return S_ISDIR(st.st_mode) ? Kind::Folder : S_ISREG(st.st_mode) ? Kind::File : Kind::Other;
 }
@@ -141,6 +159,7 @@ Kind KindOf(const std::string& path, struct stat* info = nullptr) {
 // A file without any write permission is read-only, as the attribute of the platform:
 // it is never written, replaced or deleted.
 bool Writable(const std::string& path, const struct stat& st) {
+    if (IsUnwritten(path)) return true;
     if ((st.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0) return false;
     return ::access(path.c_str(), W_OK) == 0;
 }
@@ -252,7 +271,14 @@ std::string SpellingIn(const std::string& folder, const std::string& name) {
         names.listed = true;
     }
     auto it = names.byLowerCase.find(Lower(name));
-    return it == names.byLowerCase.end() ? std::string() : it->second;
+    if (it != names.byLowerCase.end()) return it->second;
+    for (const std::string& file : Unwritten()) {
+        const fs::path unwritten(file);
+        if (unwritten.parent_path() == folder &&
+            Lower(unwritten.filename().string()) == Lower(name))
+            return unwritten.filename().string();
+    }
+    return {};
 }
 
 // A name the program itself adds to or removes from a folder. When the names of the folder
@@ -304,9 +330,13 @@ void ForgetFolder(const std::string& folder) {
     }
 }
 
+// The names of the new files open for output in `folder` that match `mask`.
+std::vector<std::string> UnwrittenIn(const fs::path& folder, std::string_view mask);
+
 // Makes an empty file where there was none.
 void MakeEmptyFile(const fs::path& path) {
     FolderChange change(path);
+    BeforeChange(path);
     WriteStep();
     Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
     if (file.fd < 0) Raise(ErrorFromSystem(errno, err::PathFileAccessError), path.string());
@@ -317,10 +347,26 @@ void MakeEmptyFile(const fs::path& path) {
 // name in the same folder, then renamed over the old file. A crash leaves the old file.
 void Commit(OpenFile& f) {
     if (!SequentialOutput(f.mode)) return;
+    Unwritten().erase(f.target.string());
     FolderChange change(f.target);
+    BeforeChange(f.target);
     WriteWhole(f.temporary, f.buffer, f.target);
     RenameOver(f.temporary, f.target);
     change.Done(true);
+}
+
+}  // namespace
+
+namespace {
+
+std::vector<std::string> UnwrittenIn(const fs::path& folder, std::string_view mask) {
+    std::vector<std::string> names;
+    for (const std::string& file : Unwritten()) {
+        const fs::path unwritten(file);
+        if (unwritten.parent_path() == folder && WildcardMatch(unwritten.filename().string(), mask))
+            names.push_back(unwritten.filename().string());
+    }
+    return names;
 }
 
 }  // namespace
@@ -440,6 +486,7 @@ void MkDir(const std::string& path) {
     if (KindOf(target.parent_path().string()) != Kind::Folder)
         Raise(err::PathNotFound, target.string());
     FolderChange change(target);
+    BeforeChange(target, EntryChange::Folder);
     WriteStep();
     if (::mkdir(target.c_str(), 0777) != 0)
         Raise(ErrorFromSystem(errno, err::PathFileAccessError), target.string());
@@ -453,6 +500,7 @@ void RmDir(const std::string& path) {
     if (!fs::is_directory(target, ec)) Raise(err::PathNotFound, target.string());
     if (!fs::is_empty(target, ec)) Raise(err::PathFileAccessError, target.string());
     FolderChange change(target);
+    BeforeChange(target, EntryChange::Folder);
     WriteStep();
     if (::rmdir(target.c_str()) != 0)
         Raise(ErrorFromSystem(errno, err::PathFileAccessError), target.string());
@@ -470,6 +518,7 @@ void DeleteOneFile(const fs::path& target) {
     if (IsOpen(target)) Raise(err::PathFileAccessError, target.string());
     if (!Writable(target.string(), st)) Raise(err::PermissionDenied, target.string());
     FolderChange change(target);
+    BeforeChange(target);
     WriteStep();
     if (::unlink(target.c_str()) != 0)
         Raise(ErrorFromSystem(errno, err::PathFileAccessError), target.string());
@@ -496,6 +545,7 @@ void Kill(const std::string& pattern) {
         if (!entry.is_regular_file(ec)) continue;
         if (WildcardMatch(entry.path().filename().string(), mask)) matches.push_back(entry.path());
     }
+    for (const std::string& name : UnwrittenIn(dir, mask)) matches.push_back(dir / name);
     if (matches.empty()) Raise(err::FileNotFound, norm);
     std::sort(matches.begin(), matches.end());
     for (const auto& match : matches) DeleteOneFile(match);
@@ -517,6 +567,9 @@ void RefuseToReplace(const fs::path& to) {
 void MoveEntry(const fs::path& from, const fs::path& to, bool folder) {
     FolderChange removed(from);
     FolderChange added(to);
+    const EntryChange change = folder ? EntryChange::Folder : EntryChange::File;
+    BeforeChange(from, change);
+    BeforeChange(to, change);
     WriteStep();
     if (::rename(from.c_str(), to.c_str()) != 0)
         Raise(ErrorFromSystem(errno, err::PathFileAccessError), to.string());
@@ -545,6 +598,7 @@ void FileCopy(const std::string& source, const std::string& target) {
     fs::path temporary = to;
     temporary += ".~copy";
     FolderChange change(to);
+    BeforeChange(to);
     WriteWhole(temporary, ReadWhole(from.string()), to);
     RenameOver(temporary, to);
     change.Done(true);
@@ -571,9 +625,29 @@ void NameOver(const std::string& oldPath, const std::string& newPath) {
 
 std::int64_t FileLen(const std::string& path) {
     std::error_code ec;
-    auto size = fs::file_size(Resolved(path), ec);
+    const fs::path file = Resolved(path);
+    auto size = fs::file_size(file, ec);
+    if (ec && IsUnwritten(file.string())) return 0;
     if (ec) Raise(err::FileNotFound, path);
     return static_cast<std::int64_t>(size);
+}
+
+void AppendLine(const std::string& path, std::string_view line) {
+    const fs::path target = Resolved(path);
+    const Kind kind = KindOf(target.string());
+    if (kind == Kind::Folder || kind == Kind::Other) Raise(err::PathFileAccessError, path);
+    if (IsOpen(target)) Raise(err::PathFileAccessError, path);
+    FolderChange change(target);
+    BeforeChange(target);
+    WriteStep();
+    Descriptor file(::open(target.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0666));
+    if (file.fd < 0) Raise(ErrorFromSystem(errno, err::PathNotFound), path);
+    const std::string bytes = std::string(line) + "\r\n";
+    const ssize_t n = ::write(file.fd, bytes.data(), bytes.size());
+    if (n != static_cast<ssize_t>(bytes.size()))
+        Raise(ErrorFromSystem(n < 0 ? errno : ENOSPC, err::DeviceIOError), path);
+    if (kind == Kind::None) NoteFolderChanged(target);
+    change.Done(true);
 }
 
 std::vector<std::string> Dir(const std::string& pattern, bool folders) {
@@ -591,6 +665,9 @@ std::vector<std::string> Dir(const std::string& pattern, bool folders) {
         const std::string name = entry.path().filename().string();
         if (WildcardMatch(name, mask.empty() ? "*" : mask)) names.push_back(name);
     }
+    if (!folders)
+        for (const std::string& name : UnwrittenIn(dir, mask.empty() ? "*" : mask))
+            names.push_back(name);
     std::sort(names.begin(), names.end());
     return names;
 }
@@ -632,11 +709,12 @@ void Open(int fileNo, const std::string& path, OpenMode mode, int recordLength) 
             if (mode == OpenMode::Append && kind == Kind::File) f.buffer = ReadWhole(target);
             f.temporary = f.target;
             f.temporary += ".~" + std::to_string(::getpid());
-            // The file is there from the open on, as on the platform; its content comes
-            // with the close.
+            // The file is there from the open on, as on the platform; it reaches the disk
+            // with its content, at the close. A folder that takes no new file says so now.
             if (kind == Kind::None) {
-                MakeEmptyFile(f.target);
-                f.madeEmpty = true;
+                if (::access(f.target.parent_path().c_str(), W_OK | X_OK) != 0)
+                    Raise(ErrorFromSystem(errno, err::PathFileAccessError), target);
+                Unwritten().insert(target);
             }
             break;
         case OpenMode::Random:
@@ -662,15 +740,8 @@ void CloseAll() {
 }
 
 void AbandonAll() {
-    // A file that only the open made goes again: nothing of the failed run stays.
-    for (const auto& [no, f] : Table()) {
-        struct stat st {};
-        if (f.madeEmpty && KindOf(f.target.string(), &st) == Kind::File && st.st_size == 0) {
-            FolderChange change(f.target);
-            WriteStep();
-            if (::unlink(f.target.c_str()) == 0) change.Done(false);
-        }
-    }
+    // A new file goes again, never having reached the disk: nothing of the failed run stays.
+    Unwritten().clear();
     Table().clear();
 }
 
@@ -723,6 +794,7 @@ void PutRecords(int fileNo, long firstRecordNo, std::string_view bytes) {
     if (firstRecordNo < 1) Raise(err::BadRecordNumber, f.target.string());
     if (bytes.size() % static_cast<size_t>(f.recordLength) != 0)
         Raise(err::BadRecordLength, f.target.string());
+    BeforeChange(f.target, EntryChange::FileInPlace);
     WriteStep();
     f.random->clear();
     // Writing past the end fills the gap with zero bytes, as the platform does.

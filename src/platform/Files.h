@@ -37,6 +37,10 @@ void Name(const std::string& oldPath, const std::string& newPath);
 // file or the new one, never neither. A missing target is simply made.
 void NameOver(const std::string& oldPath, const std::string& newPath);
 std::int64_t FileLen(const std::string& path);
+// Adds one line (CR LF ended) to the end of a file of the program's own, in place and by one
+// write, making the file where there is none: a process that dies leaves the line whole or
+// not there. For journals only, which no other program reads.
+void AppendLine(const std::string& path, std::string_view line);
 std::vector<std::string> Dir(const std::string& pattern, bool folders = false);
 // How often a folder has been listed to match a name without regard to case; the folders
 // the program changes itself are known without listing them again.

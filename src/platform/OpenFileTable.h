@@ -18,7 +18,6 @@ struct OpenFile {
     std::string buffer;               // whole content for input, pending content for output
     size_t pos = 0;
     int recordLength = 128;
-    bool madeEmpty = false;  // the open made the file, empty, as the platform does
     std::unique_ptr<std::fstream> random;
 };
 
