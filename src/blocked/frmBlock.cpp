@@ -13,6 +13,7 @@
 #include "schedule/Workdays.h"
 #include "setup/SetupHooks.h"
 #include "store/BasicDiskRoutines.h"
+#include "store/Journal.h"
 #include "store/SharedState.h"
 
 using namespace platform;
@@ -261,6 +262,8 @@ void frmBlock::cmdAccept_Click() {
         cmdCancel_Click();
         return;
     }
+    // A crash half way through the request leaves every day file as it was before it.
+    KeepOldFiles request;
     if (lstAssignto.ListIndex() == lstAssignto.ListCount() - 1) {
         FindAllTeams();
     } else {

@@ -16,6 +16,7 @@
 #include "setup/ScreenLinks.h"
 #include "setup/SetupHooks.h"
 #include "store/BasicDiskRoutines.h"
+#include "store/Journal.h"
 #include "store/SharedState.h"
 #include "telephony/DialerLink.h"
 
@@ -345,6 +346,9 @@ void frmProjectControl::fgPJHours_Click() {
 }
 
 void frmProjectControl::MSCal_DateClick() {
+    // A move with its cascade, or a completion, changes many day files: a crash half way
+    // leaves them all as they were before the click.
+    KeepOldFiles kept;
     if (CalendarMode == 2) {
         RescheduleDateClicked(*this);
     } else if (CalendarMode == 1) {
@@ -432,7 +436,10 @@ void frmProjectControl::mnuDeleteProject_Click() {
             "Click YES to Delete Project " + projectNo + "\r\nClick  NO to exit Project Deletion",
             vbYesNo + vbQuestion, "Project Deletion") == vbNo)
         return;
-    DeleteProject(*this, SelProject, projectNo);
+    {
+        KeepOldFiles kept;
+        DeleteProject(*this, SelProject, projectNo);
+    }
     LoadProjects(*this);
     Form_Activate();
 }
@@ -444,8 +451,11 @@ void frmProjectControl::mnuClearAll_Click() {
     if (MsgBox("Are you Sure?\r\nClick Yes to Continue", vbYesNo + vbQuestion, "Verify Delete") ==
         vbNo)
         return;
-    for (int row = 1; row <= fgProjects.Rows() - 1; ++row)
-        DeleteProject(*this, row, fgProjects.TextMatrix(row, 0));
+    {
+        KeepOldFiles kept;
+        for (int row = 1; row <= fgProjects.Rows() - 1; ++row)
+            DeleteProject(*this, row, fgProjects.TextMatrix(row, 0));
+    }
     ClearProjectGrid(*this);
     ProjectsLoaded = false;
     Form_Activate();
@@ -496,7 +506,10 @@ void frmProjectControl::cmdPrintPastCompletion_Click() {
 }
 
 void frmProjectControl::cmdReschedule_Click(int index) {
-    if (index == 0) ConfirmHourlyReschedule(*this);
+    if (index == 0) {
+        KeepOldFiles kept;
+        ConfirmHourlyReschedule(*this);
+    }
     ShowPanel(2);
 }
 

@@ -317,21 +317,29 @@ void RemoveScheduledSlots(frmMain& form) {
     }
 }
 
+namespace {
+
+// The slots of the project go, then the snapshot comes back over them: a crash anywhere in
+// between is finished by the next start.
+void AbandonProject(frmMain& form) {
+    RestoreTeamFiles({}, [&form] { RemoveScheduledSlots(form); });
+}
+
+}  // namespace
+
 void ExitCreation(frmMain& form) {
     if (MenuRoutine == 1 && form.CreationMode == 5) {
         if (MsgBox("Click Yes to Schedule this Project\r\nClick No to Delete this Project", vbYesNo,
                    "Complete or Delete New Project") == vbYes) {
             SaveProject(form);
         } else {
-            RemoveScheduledSlots(form);
-            RestoreTeamFiles();
+            AbandonProject(form);
         }
     } else if (MenuRoutine == 1 && form.CurrentMilestone >= 2) {
         if (MsgBox("Returning to the Menu now\r\nwill delete the Project", vbYesNo,
                    "Delete New Project") != vbYes)
             return;
-        RemoveScheduledSlots(form);
-        RestoreTeamFiles();
+        AbandonProject(form);
     }
     BackToMenu(form);
 }

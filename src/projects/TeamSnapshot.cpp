@@ -52,12 +52,12 @@ void SnapshotTeamFiles() {
     FlushAllFiles();
 }
 
-void RestoreTeamFiles(std::vector<JournalStep> first) {
+void RestoreTeamFiles(std::vector<JournalStep> first, const std::function<void()>& prepare) {
     CloseAll();
     // A restore cut short is finished at the next start: no team is left half way back.
     for (int year = FirstYear(); year < FirstYear() + kYears; ++year)
         for (int team = 1; team <= TeamCount(); ++team)
             first.push_back({JournalStepKind::MirrorDays, "\\Backup" + TeamFolder(year, team),
                              TeamFolder(year, team)});
-    RunJournal(first);
+    RunJournal(first, prepare);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "store/Journal.h"
@@ -15,5 +16,7 @@ void DeleteTeamFiles(bool live);
 // The Backup tree becomes a copy of the working day files.
 void SnapshotTeamFiles();
 // The working tree becomes a copy of the Backup day files; files made since go. The steps
-// `first` (the project's own files going) are done with it, before it.
-void RestoreTeamFiles(std::vector<JournalStep> first = {});
+// `first` (the project's own files going) are done with it, before it; `prepare` runs before
+// them, once a crash would be finished by them.
+void RestoreTeamFiles(std::vector<JournalStep> first = {},
+                      const std::function<void()>& prepare = nullptr);

@@ -82,6 +82,73 @@ TEST(Journal, AStartFinishesWhatACrashLeftAtAnyWrite) {
     EXPECT_GT(stop, 8);
 }
 
+// An action whose writes are not known before it runs: a day file rewritten, one deleted,
+// records written in place, a new year folder with a new day file. The watcher keeps each
+// file's old state before its first change.
+void ChangeTheDays() {
+    KeepOldFiles action;
+    int file = FreeFile();
+    Open(file, DataPath("\\2026\\Team#1\\200.txt"), OpenMode::Output);
+    PrintLine(file, "moved");
+    Close(file);
+    DeleteFile("\\2026\\Team#2\\200.txt");
+    file = FreeFile();
+    Open(file, DataPath("\\ProjectRecords.txt"), OpenMode::Random, 4);
+    PutRecord(file, 1, "new!");
+    Close(file);
+    MakeFolder("\\2027");
+    MakeFolder("\\2027\\Team#1");
+    file = FreeFile();
+    Open(file, DataPath("\\2027\\Team#1\\5.txt"), OpenMode::Output);
+    PrintLine(file, "new");
+    Close(file);
+}
+
+TEST(Journal, AnActionWhoseFilesAreKeptIsUndoneByTheStartAfterACrash) {
+    static long stop;
+    static long seen;
+    for (stop = 1;; ++stop) {
+        SCOPED_TRACE("crash at write " + std::to_string(stop));
+        TestFolder folder;
+        folder.Write("2026/Team#1/200.txt", "one");
+        folder.Write("2026/Team#2/200.txt", "two");
+        folder.Write("ProjectRecords.txt", "old!kept");
+        seen = 0;
+        // A process that died writes nothing more, also where the action's end lets no
+        // failure through.
+        SetWriteStepHook([] {
+            if (++seen >= stop) throw std::runtime_error("crash");
+        });
+        try {
+            ChangeTheDays();
+        } catch (const std::runtime_error&) {
+        }
+        SetWriteStepHook(nullptr);
+        AbandonAll();
+        const bool died = seen >= stop;
+        if (died) {
+            FinishJournal();
+            RemoveLeftoverTemporaries(folder.Path().string());
+        }
+        // Past the end of the journal a crash leaves the action done: all files as after.
+        if (folder.Read("2026/Team#1/200.txt") == "one") {
+            EXPECT_EQ(folder.Read("2026/Team#2/200.txt"), "two");
+            EXPECT_EQ(folder.Read("ProjectRecords.txt"), "old!kept");
+            EXPECT_FALSE(folder.Exists("2027"));
+        } else {
+            EXPECT_EQ(folder.Read("2026/Team#1/200.txt"), "moved\r\n");
+            EXPECT_FALSE(folder.Exists("2026/Team#2/200.txt"));
+            EXPECT_EQ(folder.Read("ProjectRecords.txt"), "new!kept");
+            EXPECT_EQ(folder.Read("2027/Team#1/5.txt"), "new\r\n");
+        }
+        EXPECT_FALSE(folder.Exists("Unfinished.jnl"));
+        EXPECT_FALSE(folder.Exists("2026/Team#1/200.txt.~old"));
+        if (!died) break;
+        EXPECT_FALSE(FinishJournal());
+    }
+    EXPECT_GT(stop, 10);
+}
+
 TEST(Journal, MalformedJournalsNeitherStopTheStartNorLeaveTheFolder) {
     struct Case {
         const char* name;
@@ -93,7 +160,11 @@ TEST(Journal, MalformedJournalsNeitherStopTheStartNorLeaveTheFolder) {
         {"nan", "nan\tnan\tnan\tnan\r\n"},
         {"huge numbers", "move\t99999999999999999999\t\\2026\\Team#3\t\\2026\\Team#9\r\n"},
         {"NUL bytes", std::string("delete\t0\t\\2026\\Team#1\\*.*\0x\t\r\n", 30)},
-        {"climbing out", "delete\t0\t\\..\\..\\Victim.txt\t\r\nrmdir\t0\t\\..\\outside\t\r\n"},
+        {"climbing out",
+         "delete\t0\t\\..\\..\\Victim.txt\t\r\nrmdir\t0\t\\..\\outside\t\r\n"
+         "mkdir\t0\t\\..\\made\t\r\n"},
+        {"undo line cut short",
+         "undo\t0\t\t\r\nreplace\t0\t\\2026\\Team#3\\200.txt\t\\2026\\Team#1\\200.txt\r\n"},
         {"a folder in its place", ""},
     };
     for (const Case& c : cases) {
@@ -113,6 +184,7 @@ TEST(Journal, MalformedJournalsNeitherStopTheStartNorLeaveTheFolder) {
         }
         CloseAll();
         EXPECT_TRUE(folder.Exists("../Victim.txt"));
+        EXPECT_FALSE(folder.Exists("../made"));
         EXPECT_EQ(folder.Read("2026/Team#1/200.txt"), "one");
         EXPECT_EQ(folder.Exists("Unfinished.jnl"), std::string(c.name) == "a folder in its place");
         EXPECT_TRUE(folder.Exists("2026/Team#3/200.txt") || folder.Exists("2026/Team#9/200.txt"));
@@ -124,6 +196,7 @@ TEST(Journal, LeftoverTemporariesAreKnownByTheirNames) {
     EXPECT_TRUE(IsLeftoverTemporary("Assignto.txt.~12345"));
     EXPECT_TRUE(IsLeftoverTemporary("Phone.txt.~copy"));
     EXPECT_TRUE(IsLeftoverTemporary("Assignto.txt.~new"));
+    EXPECT_TRUE(IsLeftoverTemporary("Assignto.txt.~old"));
     EXPECT_FALSE(IsLeftoverTemporary("Assignto.txt"));
     EXPECT_FALSE(IsLeftoverTemporary("Notes.~draft"));
     EXPECT_FALSE(IsLeftoverTemporary(".~123"));
