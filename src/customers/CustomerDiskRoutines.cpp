@@ -146,29 +146,33 @@ bool CustomerFileMissing(const std::string& whatCannotBeRebuilt) {
     return true;
 }
 
+// Writes the buffer at record numbers `last` down to `first` of a new billing file, built
+// under its staging name: it takes the old file's place in one rename, and the Backup copy
+// goes after that.
+void BuildBillingFile(const std::string& path, const Record& buffer, std::int32_t last,
+                      std::int32_t first) {
+    const std::string staging = StagingName(path);
+    DeleteFile(staging);
+    OpenRandomSecond(staging, LengthOf(buffer.Layout()));
+    const int file = SecondFileNo;
+    for (std::int32_t r = last; r >= first; --r) PutRecord(file, r, buffer);
+    ReplaceWithScratch(staging, path);
+}
+
 }  // namespace
 
 void BuildContractInfo(std::int32_t firstRecord) {
     if (CustomerFileMissing("The Contract File can not be rebuilt")) return;
-    DeleteEverywhere(customers::kContractFile);
-    const std::int32_t count = CountCustomers();
-    OpenContractInfo();
-    const int file = SecondFileNo;
     // Record numbers start at 1: an empty account book writes nothing.
-    for (std::int32_t r = count; r >= std::max(firstRecord, 1); --r)
-        PutRecord(file, r, ContractRecord);
-    CloseAll();
+    BuildBillingFile(customers::kContractFile, ContractRecord, CountCustomers(),
+                     std::max(firstRecord, 1));
 }
 
 void BuildCycleInfo(std::int32_t recordCount) {
     if (CustomerFileMissing("The Cycle File can not be rebuilt")) return;
-    DeleteEverywhere(customers::kCycleFile);
     MsgBox("Your Billing Information File will be Built with Default Values",
            vbOKOnly + vbInformation, "Building Billing Info");
-    OpenCycleInfo();
-    const int file = SecondFileNo;
-    for (std::int32_t r = recordCount; r >= 1; --r) PutRecord(file, r, CycleRecord);
-    CloseAll();
+    BuildBillingFile(customers::kCycleFile, CycleRecord, recordCount, 1);
 }
 
 // Reading makes no file: a missing billing file is rebuilt when the screen next opens.
