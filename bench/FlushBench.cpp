@@ -1,4 +1,5 @@
-// What flushing the data files to disk costs: the set-up save and the customer save, each
+// What flushing the data files to disk costs: the set-up save, the customer save and the
+// project save of the creation wizard, each
 // timed with flushing and without it, on fresh copies of one program folder. Prints the
 // median of several runs of each and their ratio.
 #include <algorithm>
@@ -27,6 +28,8 @@ const std::vector<std::string> kOffice = {
     "write /Assignto.txt \"Crew A\"\\r\\n\"Crew B\"\\r\\n",
     "write /Characteristics.txt \"Framing\",2,2,0,0\\r\\n\"Inspection\",1,2,1,2\\r\\n",
     "write /Phone.txt #FALSE#\\r\\n1\\r\\n",
+    "write /NorvaxProposals/P1023.txt \"FP1023\",1234.5,#2026-03-02#,\"C100\",\"Hammer & "
+    "Sons\",\"12 Oak St\",\"\",\"Springfield\",\"IL\",\"62701\",\"217-555-0199\"\\r\\n",
     "start",
 };
 
@@ -79,6 +82,12 @@ int main() {
           "type frmCustomer.txtCustomer(10) Smith",
           "type frmCustomer.txtCustomer(2) 12 Oakwood Dr"},
          {"click frmCustomer.cmdExit"}},
+        {"project save",
+         {"click frmStartup.cmdStart", "click frmCustomerSelection.cmdStartup(1)",
+          "cell frmCustomerSelection.fgProposals 1 2", "click frmCustomerSelection.cmdCreation(1)",
+          "type frmMain.cboProjectTitle Deck", "click frmMain.cmdContinue",
+          "click frmMain.cmdContinue", "click frmMain.cmdContinue"},
+         {"click frmMain.cmdSave"}},
     };
     for (const Action& action : actions) {
         // Runs with and without flushing take turns, so that the load of the machine weighs

@@ -221,6 +221,45 @@ std::vector<std::string> Office() {
     };
 }
 
+// The office a scenario script makes before its start: its lines before "start", the clock
+// left out.
+std::vector<std::string> OfficeOf(const std::string& scenario) {
+    std::ifstream in(std::string(SCENARIO_DIR) + "/" + scenario + ".script", std::ios::binary);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(in, line) && line != "start";)
+        if (line.starts_with("write ") || line.starts_with("mkdir ")) lines.push_back(line);
+    return lines;
+}
+
+// The office of four teams with a proposal, on the way to a project of a milestone of a day
+// for a team and an administrative one after it.
+std::vector<std::string> WizardOffice() {
+    std::vector<std::string> office = Office();
+    office.push_back(
+        "write /NorvaxProposals/P1023.txt "
+        "\"FP1023\",1234.5,#2026-03-02#,\"C100\",\"Hammer & Sons\",\"12 Oak St\",\"\","
+        "\"Springfield\",\"IL\",\"62701\",\"217-555-0199\"\\r\\n");
+    office.push_back("write /ProjectRecords.txt " + std::string(297, 'r'));
+    office.push_back("write /PjCounter.txt \"166\",4\\r\\n");
+    return office;
+}
+
+// From the start to the wizard's summary of that project.
+const std::vector<std::string> kToTheWizardSummary = {"clock 6/15/2026 09:00",
+                                                      "start",
+                                                      "click frmStartup.cmdStart",
+                                                      "click frmCustomerSelection.cmdStartup(1)",
+                                                      "cell frmCustomerSelection.fgProposals 1 2",
+                                                      "click frmCustomerSelection.cmdCreation(1)",
+                                                      "type frmMain.cboProjectTitle Deck",
+                                                      "click frmMain.cmdContinue",
+                                                      "click frmMain.cmdContinue",
+                                                      "click frmMain.cmdContinue"};
+
+const std::vector<std::string> kToTheProjects = {"clock 6/15/2026 09:00", "start",
+                                                 "dblclick frmStartup.optProgramRoutine(9)",
+                                                 "click frmProjectControl.cmdGotoProjects"};
+
 // A meeting of the service-call program on the date given, one record of 297 bytes.
 std::string Meeting(const std::string& date, char mark) {
     std::string record = "          Pj1-1     1 Hours 1 " + date;
@@ -287,6 +326,51 @@ std::vector<CrashAction> Actions() {
     old.push_back("write /Backup/Meetings.txt " + Meeting("6/1/2026", 'a'));
     actions.push_back(
         {"StartupPurgesAndRolls", old, {"clock 5/1/2026 08:30"}, {"start"}, {}, "5/1/2026 08:30"});
+    const std::vector<std::string> project = {"ConstructionProjects", "PjCounter.txt",
+                                              "ProjectRecords.txt", "ProjectTempFile.txt",
+                                              "Backup/ProjectTempFile.txt"};
+    actions.push_back({"WizardSave",
+                       WizardOffice(),
+                       kToTheWizardSummary,
+                       {"click frmMain.cmdSave"},
+                       {project},
+                       "6/15/2026 09:00"});
+    actions.push_back({"WizardAbandon",
+                       WizardOffice(),
+                       kToTheWizardSummary,
+                       {"answer No", "click frmMain.cmdExit"},
+                       {{"2026", "ProjectTempFile.txt"}},
+                       "6/15/2026 09:00"});
+    std::vector<std::string> toMilestone = kToTheProjects;
+    for (const char* line : {"dblcell frmProjectControl.fgProjects 1 0",
+                             "rightcell frmProjectControl.fgMilestones 2 1",
+                             "click frmProjectControl.mnuRescheduleMilestone"})
+        toMilestone.push_back(line);
+    actions.push_back({"RescheduleCascade",
+                       OfficeOf("move-milestone-later"),
+                       toMilestone,
+                       {"pick frmProjectControl.MSCal 6/24/2026"},
+                       {{"2026"}},
+                       "6/15/2026 09:00"});
+    std::vector<std::string> toProject = kToTheProjects;
+    toProject.push_back("rightcell frmProjectControl.fgProjects 1 0");
+    toProject.push_back("answer Yes");
+    actions.push_back(
+        {"DeleteProject",
+         OfficeOf("delete-project-two-teams"),
+         toProject,
+         {"click frmProjectControl.mnuDeleteProject"},
+         {{"2026", "ConstructionProjects", "ProjectRecords.txt", "Backup/ProjectRecords.txt"}},
+         "6/15/2026 09:00"});
+    actions.push_back({"BlockAllTeams",
+                       OfficeOf("block-all-teams-conflict-on-team-two"),
+                       {"clock 6/15/2026 09:00", "start", "click frmStartup.optProgramRoutine(7)",
+                        "click frmStartup.cmdStart", "choose frmBlock.lstAssignto All Assignments",
+                        "choose frmBlock.lstReason Holiday", "up frmBlock.sldTimeReq",
+                        "pick frmBlock.Calender 6/18/2026", "answer Yes"},
+                       {"click frmBlock.cmdAccept"},
+                       {{"2026"}},
+                       "6/15/2026 09:00"});
     return actions;
 }
 
