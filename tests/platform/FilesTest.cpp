@@ -187,6 +187,9 @@ TEST(Files, ANewFileIsThereFromTheOpenAndGoesWithAFailedRun) {
     Open(n, P("/new.txt"), OpenMode::Output);
     EXPECT_TRUE(FileExists(P("/NEW.txt")));
     EXPECT_EQ(FileLen(P("/new.txt")), 0);
+    EXPECT_EQ(Dir(P("/*.txt")), std::vector<std::string>{"new.txt"});
+    // ... but the disk gets it only complete: a process that dies now leaves nothing.
+    EXPECT_FALSE(folder.Exists("new.txt"));
     PrintLine(n, "line");
     AbandonAll();
     EXPECT_FALSE(folder.Exists("new.txt"));
