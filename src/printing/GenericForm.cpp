@@ -147,8 +147,11 @@ void PrintLogo(std::int16_t left) {
     platform::Image* adjusted = LogoImage("Image3");
     platform::Image* original = LogoImage("Image2");
     if (!adjusted) return;
+    // A low logo box is raised on the set-up screen itself, so the next store of the logo
+    // settings keeps the raised height.
+    if (adjusted->Height() < kLogoMinimumHeight) adjusted->SetHeight(kLogoMinimumHeight);
     const double width = adjusted->Width();
-    const double height = std::max<double>(adjusted->Height(), kLogoMinimumHeight);
+    const double height = adjusted->Height();
     std::string picture = adjusted->Picture();
     if (picture.empty() && original) picture = original->Picture();
     if (picture.empty()) return;

@@ -91,8 +91,8 @@ void PrintScheduleRow(frmMain& form, int slot, float y, bool extended) {
     }
     Printer().Print(form.Label2[slot].Caption(), PrintEnd::Semicolon);
     if (extended) {
-        PrintAt(2.5f, row.telephone);
-        PrintLineAt(4.5f, slotText);
+        PrintAt(4.5f, slotText);
+        PrintLineAt(2.5f, row.telephone);
         PrintLineAt(2.5f, row.name);
         PrintLineAt(2.5f, row.street);
     } else {
