@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "platform/FileSafety.h"
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
@@ -37,49 +39,33 @@ void ExpectTeamTwoDeleted(const TestFolder& folder) {
     EXPECT_FALSE(folder.Exists("Unfinished.jnl"));
 }
 
-}  // namespace
-
-TEST(Journal, StepsRunToTheEndAndTheJournalGoes) {
-    TestFolder folder;
-    MakeThreeTeams(folder);
-    RunJournal(DeleteTeamTwo());
-    ExpectTeamTwoDeleted(folder);
-    EXPECT_FALSE(FinishJournal());
-}
-
-TEST(Journal, AStartFinishesWhatACrashLeftAtAnyWrite) {
-    // The run stops at each write to the disk in turn. Before the journal is in place nothing
-    // has changed; after it, the next start ends where the run without a crash ends.
+// Runs `action` on a new folder made by `make` once for each of its writes to the disk,
+// dying at that write: a process that died writes nothing more, also where the action's end
+// lets no failure through. `check` sees each folder after its run, told whether the run died.
+// Stops after the run that reaches its end; returns the number of runs.
+long CrashAtEveryWrite(const std::function<void(const TestFolder&)>& make,
+                       const std::function<void()>& action,
+                       const std::function<void(const TestFolder&, bool)>& check) {
     static long stop;
     static long seen;
     for (stop = 1;; ++stop) {
         SCOPED_TRACE("crash at write " + std::to_string(stop));
         TestFolder folder;
-        MakeThreeTeams(folder);
+        make(folder);
         seen = 0;
         SetWriteStepHook([] {
-            if (++seen == stop) throw std::runtime_error("crash");
+            if (++seen >= stop) throw std::runtime_error("crash");
         });
-        bool crashed = false;
         try {
-            RunJournal(DeleteTeamTwo());
+            action();
         } catch (const std::runtime_error&) {
-            crashed = true;
         }
         SetWriteStepHook(nullptr);
         AbandonAll();
-        if (!crashed) {
-            ExpectTeamTwoDeleted(folder);
-            break;
-        }
-        FinishJournal();
-        const bool unchanged = folder.Read("Assignto.txt") == "\"A\"\r\n\"B\"\r\n\"C\"\r\n" &&
-                               folder.Read("2026/Team#2/200.txt") == "two" &&
-                               folder.Read("2026/Team#3/200.txt") == "three";
-        if (!unchanged) ExpectTeamTwoDeleted(folder);
-        EXPECT_FALSE(folder.Exists("Unfinished.jnl"));
+        const bool died = seen >= stop;
+        check(folder, died);
+        if (!died) return stop;
     }
-    EXPECT_GT(stop, 8);
 }
 
 // An action whose writes are not known before it runs: a day file rewritten, one deleted,
@@ -104,49 +90,59 @@ void ChangeTheDays() {
     Close(file);
 }
 
+}  // namespace
+
+TEST(Journal, StepsRunToTheEndAndTheJournalGoes) {
+    TestFolder folder;
+    MakeThreeTeams(folder);
+    RunJournal(DeleteTeamTwo());
+    ExpectTeamTwoDeleted(folder);
+    EXPECT_FALSE(FinishJournal());
+}
+
+TEST(Journal, AStartFinishesWhatACrashLeftAtAnyWrite) {
+    // Before the journal is in place nothing has changed; after it, the next start ends where
+    // the run without a crash ends.
+    const long runs = CrashAtEveryWrite(
+        MakeThreeTeams, [] { RunJournal(DeleteTeamTwo()); },
+        [](const TestFolder& folder, bool died) {
+            if (died) FinishJournal();
+            const bool unchanged = folder.Read("Assignto.txt") == "\"A\"\r\n\"B\"\r\n\"C\"\r\n" &&
+                                   folder.Read("2026/Team#2/200.txt") == "two" &&
+                                   folder.Read("2026/Team#3/200.txt") == "three";
+            if (!unchanged) ExpectTeamTwoDeleted(folder);
+            EXPECT_FALSE(folder.Exists("Unfinished.jnl"));
+        });
+    EXPECT_GT(runs, 8);
+}
+
 TEST(Journal, AnActionWhoseFilesAreKeptIsUndoneByTheStartAfterACrash) {
-    static long stop;
-    static long seen;
-    for (stop = 1;; ++stop) {
-        SCOPED_TRACE("crash at write " + std::to_string(stop));
-        TestFolder folder;
+    auto make = [](const TestFolder& folder) {
         folder.Write("2026/Team#1/200.txt", "one");
         folder.Write("2026/Team#2/200.txt", "two");
         folder.Write("ProjectRecords.txt", "old!kept");
-        seen = 0;
-        // A process that died writes nothing more, also where the action's end lets no
-        // failure through.
-        SetWriteStepHook([] {
-            if (++seen >= stop) throw std::runtime_error("crash");
+    };
+    const long runs =
+        CrashAtEveryWrite(make, ChangeTheDays, [](const TestFolder& folder, bool died) {
+            if (died) {
+                FinishJournal();
+                RemoveLeftoverTemporaries(folder.Path().string());
+            }
+            // Past the end of the journal a crash leaves the action done: all files as after.
+            if (folder.Read("2026/Team#1/200.txt") == "one") {
+                EXPECT_EQ(folder.Read("2026/Team#2/200.txt"), "two");
+                EXPECT_EQ(folder.Read("ProjectRecords.txt"), "old!kept");
+                EXPECT_FALSE(folder.Exists("2027"));
+            } else {
+                EXPECT_EQ(folder.Read("2026/Team#1/200.txt"), "moved\r\n");
+                EXPECT_FALSE(folder.Exists("2026/Team#2/200.txt"));
+                EXPECT_EQ(folder.Read("ProjectRecords.txt"), "new!kept");
+                EXPECT_EQ(folder.Read("2027/Team#1/5.txt"), "new\r\n");
+            }
+            EXPECT_FALSE(folder.Exists("Unfinished.jnl"));
+            EXPECT_FALSE(folder.Exists("2026/Team#1/200.txt.~old"));
         });
-        try {
-            ChangeTheDays();
-        } catch (const std::runtime_error&) {
-        }
-        SetWriteStepHook(nullptr);
-        AbandonAll();
-        const bool died = seen >= stop;
-        if (died) {
-            FinishJournal();
-            RemoveLeftoverTemporaries(folder.Path().string());
-        }
-        // Past the end of the journal a crash leaves the action done: all files as after.
-        if (folder.Read("2026/Team#1/200.txt") == "one") {
-            EXPECT_EQ(folder.Read("2026/Team#2/200.txt"), "two");
-            EXPECT_EQ(folder.Read("ProjectRecords.txt"), "old!kept");
-            EXPECT_FALSE(folder.Exists("2027"));
-        } else {
-            EXPECT_EQ(folder.Read("2026/Team#1/200.txt"), "moved\r\n");
-            EXPECT_FALSE(folder.Exists("2026/Team#2/200.txt"));
-            EXPECT_EQ(folder.Read("ProjectRecords.txt"), "new!kept");
-            EXPECT_EQ(folder.Read("2027/Team#1/5.txt"), "new\r\n");
-        }
-        EXPECT_FALSE(folder.Exists("Unfinished.jnl"));
-        EXPECT_FALSE(folder.Exists("2026/Team#1/200.txt.~old"));
-        if (!died) break;
-        EXPECT_FALSE(FinishJournal());
-    }
-    EXPECT_GT(stop, 10);
+    EXPECT_GT(runs, 10);
 }
 
 TEST(Journal, MalformedJournalsNeitherStopTheStartNorLeaveTheFolder) {
