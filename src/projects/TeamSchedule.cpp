@@ -111,6 +111,9 @@ void ShowCalendarDate(frmMain& form, DateTime date) {
 
 void CalendarChanged(frmMain& form) {
     const DateTime value = form.MonthView1.Value();
+    // A later year has its folders before any of its days is read.
+    int year = value.Year();
+    CheckYear(year);
     // The day the grid shows is the day its slots are written to.
     CurrentDate = value;
     form.lblDay.SetCaption(FormatDate(value, "dddd"));

@@ -54,15 +54,17 @@ WeekOptions WeekOptionsOf(int weekCode) {
 }
 
 DateTime SpinDateUp(DateTime value, DateTime maxDate, WeekOptions week) {
-    const DateTime next = value.AddDays(1);
+    DateTime next = value.AddDays(1);
+    if (next.Weekday() == kSunday)
+        next = week.sundayToFriday || week.allWeek ? value : value.AddDays(1);
+    else if (next.Weekday() == kSaturday)
+        next = week.mondayToSaturday || week.allWeek ? value : value.AddDays(3);
+    // A step over the weekend may pass the limit as well as a plain one; the calendar
+    // takes no date beyond it.
     if (next > maxDate) {
         MsgBox("Date cannot be more than Two Years", vbOKOnly, "Invalid date");
         return value;
     }
-    if (next.Weekday() == kSunday)
-        return week.sundayToFriday || week.allWeek ? value : value.AddDays(1);
-    if (next.Weekday() == kSaturday)
-        return week.mondayToSaturday || week.allWeek ? value : value.AddDays(3);
     return next;
 }
 
@@ -72,9 +74,16 @@ DateTime SpinDateDown(DateTime value, WeekOptions week) {
         MsgBox("Date cannot be before Today", vbOKOnly, "Invalid date");
         return Today();
     }
+    DateTime result = previous;
     if (previous.Weekday() == kSunday)
-        return !week.sundayToFriday && !week.allWeek ? value.AddDays(-3) : value;
-    if (previous.Weekday() == kSaturday)
-        return !week.mondayToSaturday && !week.allWeek ? value.AddDays(-2) : value;
-    return previous;
+        result = !week.sundayToFriday && !week.allWeek ? value.AddDays(-3) : value;
+    else if (previous.Weekday() == kSaturday)
+        result = !week.mondayToSaturday && !week.allWeek ? value.AddDays(-2) : value;
+    // Back over a weekend that began today or yesterday: the same answer as a step before
+    // today, since the calendar takes no earlier date.
+    if (result < Today()) {
+        MsgBox("Date cannot be before Today", vbOKOnly, "Invalid date");
+        return Today();
+    }
+    return result;
 }

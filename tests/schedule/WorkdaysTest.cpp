@@ -60,3 +60,14 @@ TEST(Workdays, TheSpinnerStopsAtTheEndOfTheFiveWorkingDays) {
               DateTime::FromYmd(2026, 6, 15));
     EXPECT_EQ(folder.Ui().Boxes()[1].prompt, "Date cannot be before Today");
 }
+
+TEST(Workdays, TheSpinnerNeverStepsOverTheWeekendOutOfTheCalendarsRange) {
+    // A Saturday: the calendar opens on Monday; back over the weekend lies yesterday.
+    TestFolder folder(DateTime::FromYmdHms(2026, 6, 20, 10, 0, 0));
+    EXPECT_EQ(SpinDateDown(kMonday, WeekOptionsOf(5)), kSaturday);
+    ASSERT_EQ(folder.Ui().Boxes().size(), 1u);
+    EXPECT_EQ(folder.Ui().Boxes()[0].prompt, "Date cannot be before Today");
+    // Forward over a weekend past the last date the calendar takes.
+    EXPECT_EQ(SpinDateUp(kFriday, kSunday, WeekOptionsOf(5)), kFriday);
+    EXPECT_EQ(folder.Ui().Boxes()[1].prompt, "Date cannot be more than Two Years");
+}
