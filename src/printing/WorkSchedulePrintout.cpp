@@ -194,20 +194,19 @@ void PrintWorkSchedules(frmMain& form) {
     const bool allTeams = chosen == form.lstTeam.ListCount() - 1;
     const int firstTeam = allTeams ? chosen : chosen + 1;
     const int lastTeam = allTeams ? 1 : chosen + 1;
-    bool printed = true;
-    for (int team = firstTeam; team >= lastTeam && printed; --team) {
+    // A failed team's schedule says so and the next team's is printed all the same.
+    for (int team = firstTeam; team >= lastTeam; --team) {
         LoadDayView(form, team);
         try {
             PrintSchedule(form, form.lstTeam.List(team - 1));
         } catch (const RuntimeError&) {
             ShowPrintError();
-            printed = false;
         }
     }
-    // The grid shows the chosen entry's day again; after a failure the panel stays for another try.
+    // The grid shows the chosen entry's day again.
     CurrentTeam = std::to_string(chosen + 1);
     ReadDay(form.MonthView1.Value(), CurrentTeam);
-    if (printed) ClosePrintPanel(form);
+    ClosePrintPanel(form);
 }
 
 void ClosePrintPanel(frmMain& form) {

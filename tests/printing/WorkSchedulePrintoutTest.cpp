@@ -180,5 +180,6 @@ TEST_F(WorkSchedulePrintout, ACancelledDialogueOrAFailingPrinterIsAPrintError) {
     EXPECT_EQ(LastBox(), "Print Error: A Print Error has occurred");
     EXPECT_TRUE(RecordingPrinter().Documents().empty());
     EXPECT_FALSE(Printer().DocumentOpen());
+    EXPECT_FALSE(form.fraPrint.Visible());  // the print ran its course
     EXPECT_EQ(folder.Read("Slips.txt").size(), 3u * 297);
 }
