@@ -12,6 +12,7 @@
 #include "platform/Records.h"
 #include "platform/Ui.h"
 #include "platform/headless/HeadlessBackend.h"
+#include "platform/headless/HeadlessDialogs.h"
 
 namespace fs = std::filesystem;
 using namespace platform;
@@ -91,6 +92,8 @@ int main() {
     ok &= Report("delete a contact", Time([&] { form.mnuDelete.Raise("Click"); }));
     backend.QueueAnswer(vbYes);
     ok &= Report("print the contact report", Time([&] { form.cmdPrintContacts.Click(); }));
+    QueuedDialogs().QueueFile((root / "Vendors.csv").string());
+    ok &= Report("save the vendor list as CSV", Time([&] { form.mnuSaveList.Raise("Click"); }));
     ok &= Report("leave the screen", Time([&] { form.cmdExit.Click(); }));
 
     Forms::Reset();

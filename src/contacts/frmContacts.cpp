@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "contacts/ContactReport.h"
+#include "contacts/VendorListExport.h"
 #include "contacts/VendorRoutines.h"
 #include "platform/Files.h"
 #include "platform/Numbers.h"
@@ -185,7 +186,9 @@ void frmContacts::LayOut() {
     mnuDelete.SetCaption("&Delete this Contact");
     mnuPrint.SetCaption("&Print Contact List");
     mnuView.SetCaption("&View Vendor List");
-    for (Menu* m : {&mnuAdd, &mnuDelete, &mnuPrint, &mnuView}) m->SetContainer("mnuContacts");
+    mnuSaveList.SetCaption("&Save Vendor List as CSV...");
+    for (Menu* m : {&mnuAdd, &mnuDelete, &mnuPrint, &mnuView, &mnuSaveList})
+        m->SetContainer("mnuContacts");
     mnupopup.SetCaption("Contacts");
     mnupopup.SetVisible(false);
     mnuSelect.SetCaption("Load Contact");
@@ -210,6 +213,7 @@ void frmContacts::RegisterHandlers() {
     On("cmdVendorList.Click", [this](EventArgs& e) { cmdVendorList_Click(e.index); });
     On("fgVendors.Click", [this](EventArgs&) { fgVendors_Click(); });
     On("mnuView.Click", [this](EventArgs&) { mnuView_Click(); });
+    On("mnuSaveList.Click", [this](EventArgs&) { mnuSaveList_Click(); });
     On("cboStates.Click", [this](EventArgs&) { cboStates_Click(); });
     On("imgPhone.Click", [this](EventArgs&) { imgPhone_Click(); });
     On("cmdPrintContacts.Click", [this](EventArgs&) { cmdPrintContacts_Click(); });
@@ -542,6 +546,10 @@ void frmContacts::fgVendors_Click() {
 
 void frmContacts::mnuView_Click() {
     fraSuppliers.SetVisible(!fraSuppliers.Visible());
+}
+
+void frmContacts::mnuSaveList_Click() {
+    SaveVendorList(*this);
 }
 
 // ---- Dialling, printing, leaving

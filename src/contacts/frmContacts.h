@@ -82,6 +82,7 @@ class frmContacts : public platform::Form {
     platform::Menu mnuDelete{*this, "mnuDelete"};
     platform::Menu mnuPrint{*this, "mnuPrint"};
     platform::Menu mnuView{*this, "mnuView"};
+    platform::Menu mnuSaveList{*this, "mnuSaveList"};
     platform::Menu mnupopup{*this, "mnupopup"};
     platform::Menu mnuSelect{*this, "mnuSelect"};
 
@@ -108,6 +109,7 @@ class frmContacts : public platform::Form {
     void cmdVendorList_Click(int index);
     void fgVendors_Click();
     void mnuView_Click();
+    void mnuSaveList_Click();
     void cboStates_Click();
     void imgPhone_Click();
     void cmdPrintContacts_Click();

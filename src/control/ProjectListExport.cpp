@@ -1,13 +1,9 @@
 #include "control/ProjectListExport.h"
 
-#include <filesystem>
-
 #include "control/ProjectListRoutines.h"
 #include "control/ProjectTables.h"
 #include "control/frmProjectControl.h"
-#include "platform/Dialogs.h"
 #include "platform/Ui.h"
-#include "store/BasicDiskRoutines.h"
 #include "store/CsvFile.h"
 #include "store/SharedState.h"
 
@@ -15,8 +11,8 @@ using namespace platform;
 
 namespace {
 
-constexpr const char* kTitle = "Save Project List";
-constexpr const char* kFilter = "CSV (Comma delimited) (*.csv)|*.csv|All Files (*.*)|*.*";
+constexpr CsvList kList = {"Save Project List", "Projects.csv", "project list", "project",
+                           "projects"};
 constexpr const char* kNoProposal = "Proposal Number";
 
 // Dates as spreadsheets read them everywhere.
@@ -62,10 +58,6 @@ CsvRow ProjectRow(int project) {
 
 void SaveProjectList(frmProjectControl& form) {
     if (!ProjectsLoaded) LoadProjects(form);
-    std::string path = ChooseSaveFile(kFilter, kTitle, DataPath("\\Documents\\Projects.csv"));
-    if (path.empty()) return;
-    if (std::filesystem::path(path).extension().empty()) path += ".csv";
-
     const CsvRow header = {"Project No",        "Title",
                            "Account",           "Proposal No",
                            "Billing Name",      "Billing Address 1",
@@ -77,16 +69,10 @@ void SaveProjectList(frmProjectControl& form) {
                            "Site Zip",          "Site Telephone",
                            "Milestones",        "First Date",
                            "Last Date"};
-    std::vector<CsvRow> rows;
-    if (ProjectsLoaded)
-        for (int p = 1; p <= ProjectCount; ++p) rows.push_back(ProjectRow(p));
-
-    const std::string fileName = std::filesystem::path(path).filename().string();
-    if (!SaveExportFile(path, CsvTable(header, rows))) {
-        MsgBox("The project list could not be written to " + fileName + ".", vbExclamation, kTitle);
-        return;
-    }
-    MsgBox("The project list was saved in " + fileName + " with " + std::to_string(rows.size()) +
-               (rows.size() == 1 ? " project." : " projects."),
-           vbInformation, kTitle);
+    SaveCsvList(kList, header, [] {
+        std::vector<CsvRow> rows;
+        if (ProjectsLoaded)
+            for (int p = 1; p <= ProjectCount; ++p) rows.push_back(ProjectRow(p));
+        return rows;
+    });
 }

@@ -4,6 +4,9 @@
 #include <fstream>
 #include <system_error>
 
+#include "platform/Dialogs.h"
+#include "platform/Ui.h"
+#include "store/BasicDiskRoutines.h"
 #include "store/Windows1252.h"
 
 namespace {
@@ -57,4 +60,26 @@ bool SaveExportFile(const std::string& fullPath, const std::string& bytes) {
     std::filesystem::rename(part, fullPath, ec);
     if (ec) std::filesystem::remove(part, ec);
     return !ec;
+}
+
+void SaveCsvList(const CsvList& list, const CsvRow& header,
+                 const std::function<std::vector<CsvRow>()>& readRows) {
+    constexpr const char* kFilter = "CSV (Comma delimited) (*.csv)|*.csv|All Files (*.*)|*.*";
+    std::string path = platform::ChooseSaveFile(
+        kFilter, list.title, DataPath(std::string("\\Documents\\") + list.fileName));
+    if (path.empty()) return;
+    if (std::filesystem::path(path).extension().empty()) path += ".csv";
+
+    const std::vector<CsvRow> rows = readRows();
+    const std::string fileName = std::filesystem::path(path).filename().string();
+    if (!SaveExportFile(path, CsvTable(header, rows))) {
+        platform::MsgBox(
+            std::string("The ") + list.what + " could not be written to " + fileName + ".",
+            platform::vbExclamation, list.title);
+        return;
+    }
+    platform::MsgBox(std::string("The ") + list.what + " was saved in " + fileName + " with " +
+                         std::to_string(rows.size()) + " " +
+                         (rows.size() == 1 ? list.one : list.many) + ".",
+                     platform::vbInformation, list.title);
 }

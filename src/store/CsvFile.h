@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,3 +20,18 @@ std::string CsvTable(const CsvRow& header, const std::vector<CsvRow>& rows);
 // Writes a file the user chose outside the program's data: under a temporary name beside it,
 // renamed into place once whole. False when it could not be written; nothing is left behind.
 bool SaveExportFile(const std::string& fullPath, const std::string& bytes);
+
+// A list of the program saved where the user chooses, as its screens' menus offer it.
+struct CsvList {
+    const char* title;     // of the dialogue and the messages: "Save Customer List"
+    const char* fileName;  // offered in the Documents folder: "Customers.csv"
+    const char* what;      // "customer list"
+    const char* one;       // a row in the message: "account"
+    const char* many;      // "accounts"
+};
+
+// Asks for the file (".csv" is added to a name without an extension), writes the header and
+// the rows and tells the user how it went. The rows are read only once a file is chosen; a
+// cancelled dialogue does nothing.
+void SaveCsvList(const CsvList& list, const CsvRow& header,
+                 const std::function<std::vector<CsvRow>()>& readRows);
