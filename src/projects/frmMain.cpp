@@ -1,5 +1,7 @@
 #include "projects/frmMain.h"
 
+#include <utility>
+
 #include "platform/Form.h"
 #include "platform/Numbers.h"
 #include "platform/Records.h"
@@ -361,6 +363,7 @@ void frmMain::LayOutExtras() {
 void frmMain::RegisterHandlers() {
     On("Form.Load", [this](EventArgs&) { Form_Load(); });
     On("Form.Activate", [this](EventArgs&) { Form_Activate(); });
+    On("Form.Deactivate", [this](EventArgs&) { Form_Deactivate(); });
     On("Form.QueryUnload", [this](EventArgs& e) { Form_QueryUnload(e); });
     On("cmdSetJobSite.Click", [this](EventArgs&) { cmdSetJobSite_Click(); });
     On("imgDialer.Click", [this](EventArgs&) { imgDialer_Click(); });
@@ -414,7 +417,14 @@ void frmMain::Form_Load() {
 }
 
 void frmMain::Form_Activate() {
+    // Back from a screen opened over this one: the day, the team and a creation in progress
+    // (its snapshot of the team files, its project number) stay as they were.
+    if (std::exchange(coveredWhileShown_, false)) return;
     EnterScreen(*this);
+}
+
+void frmMain::Form_Deactivate() {
+    coveredWhileShown_ = Visible();
 }
 
 void frmMain::Form_QueryUnload(EventArgs& e) {

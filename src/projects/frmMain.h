@@ -134,6 +134,7 @@ class frmMain : public platform::Form {
     // ---- Handlers
     void Form_Load();
     void Form_Activate();
+    void Form_Deactivate();
     void Form_QueryUnload(platform::EventArgs& e);
 
     void cmdSetJobSite_Click();
@@ -182,4 +183,8 @@ class frmMain : public platform::Form {
     void LayOutSummary();
     void LayOutExtras();
     void RegisterHandlers();
+
+    // A screen came up over this one while it was on display (a slip, the dialler): when it
+    // closes, the user goes on where they were rather than entering the screen anew.
+    bool coveredWhileShown_ = false;
 };
