@@ -129,6 +129,27 @@ TEST(Grid, SelectionRangeFollowsTheCurrentCellAndTheUser) {
     EXPECT_EQ(g.Properties().at("RowSel"), "2");
 }
 
+TEST(Grid, TheCurrentRowIsTheFirstBelowTheHeadingsWheneverThereIsOne) {
+    TestFolder folder;
+    Grid& g = Screen<GridForm>().fg;
+    g.SetRows(1);  // the headings alone: the last of them is current
+    EXPECT_EQ(g.Row(), 0);
+    g.SetRows(4);
+    EXPECT_EQ(g.Row(), 1);
+    EXPECT_EQ(g.RowSel(), 1);
+    g.SetRows(1);
+    g.AddItem("a\tb");
+    EXPECT_EQ(g.Row(), 1);
+    // Only code puts the current row on a heading, and there it stays.
+    g.SetRow(0);
+    g.SetRows(5);
+    EXPECT_EQ(g.Row(), 0);
+    g.UserClick(3, 1);
+    g.SetRows(1);
+    g.SetRows(3);
+    EXPECT_EQ(g.Row(), 1);
+}
+
 TEST(Grid, FormatStringGivesEachColumnTheWidthOfItsPaddedHeading) {
     TestFolder folder;
     Grid& g = Screen<GridForm>().fg;

@@ -77,6 +77,15 @@ void Grid::Resize() {
     col_ = std::min(col_, cols_ - 1);
     rowSel_ = std::min(rowSel_, rows_ - 1);
     colSel_ = std::min(colSel_, cols_ - 1);
+    KeepRowBelowFixed();
+}
+
+void Grid::KeepRowBelowFixed() {
+    // The current row is the first below the fixed ones, as in a flex grid: a grid of fixed
+    // rows alone has its last row current, and once rows come below them the first of those
+    // is current again. Only code may put the current row among the fixed ones.
+    if (rowChosenInFixed_ || row_ >= fixedRows_ || rows_ <= fixedRows_) return;
+    row_ = rowSel_ = fixedRows_;
 }
 
 void Grid::SetRows(int rows) {
@@ -95,6 +104,7 @@ void Grid::SetCols(int cols) {
 
 void Grid::SetFixedRows(int n) {
     fixedRows_ = n;
+    KeepRowBelowFixed();
     Notify();
 }
 
@@ -107,6 +117,7 @@ void Grid::SetRow(int row) {
     if (row < 0 || row >= rows_) platform::Raise(30009, Key());  // Invalid Row value
     row_ = row;
     rowSel_ = row;
+    rowChosenInFixed_ = row < fixedRows_;
     Notify();
 }
 
@@ -294,6 +305,7 @@ void Grid::AddItem(const std::string& tabSeparated, int index) {
     rowHeights_.insert(rowHeights_.begin() + at, -1);
     mergeRows_.insert(mergeRows_.begin() + at, false);
     ++rows_;
+    KeepRowBelowFixed();
     Notify();
 }
 
@@ -313,6 +325,7 @@ void Grid::UserClick(int row, int col, int button) {
     if (row >= fixedRows_ && row < rows_ && col >= fixedCols_ && col < cols_) {
         row_ = rowSel_ = row;
         col_ = colSel_ = col;
+        rowChosenInFixed_ = false;
         Notify();
     }
     EventArgs args;

@@ -110,11 +110,13 @@ class Grid : public Control {
     Cell& At(int row, int col);
     const Cell* Find(int row, int col) const;
     void Resize();
+    void KeepRowBelowFixed();
     bool SameTextMerged(int row, int col, int nextRow, int nextCol) const;
 
     int rows_ = 2, cols_ = 2, fixedRows_ = 1, fixedCols_ = 1;
     int row_ = 1, col_ = 1, rowSel_ = 1, colSel_ = 1, topRow_ = 1;
     int mouseRow_ = 0, mouseCol_ = 0;
+    bool rowChosenInFixed_ = false;  // set there by SetRow
     std::vector<std::vector<Cell>> cells_;
     std::vector<int> colWidths_;
     std::vector<int> rowHeights_;
