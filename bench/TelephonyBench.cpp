@@ -14,16 +14,21 @@
 #include "frame/SubMain.h"
 #include "platform/Files.h"
 #include "platform/Form.h"
+#include "platform/RecordLayout.h"
 #include "platform/SerialPort.h"
 #include "platform/Ui.h"
 #include "platform/headless/HeadlessBackend.h"
 #include "platform/headless/SimulatedSerial.h"
+#include "schedule/Teams.h"
 #include "telephony/frmCallBack.h"
 #include "telephony/frmCallID.h"
+#include "workorders/SlipFile.h"
 
 namespace fs = std::filesystem;
 using namespace platform;
 
+using bench::Report;
+using bench::Time;
 using bench::WriteFile;
 
 namespace {
@@ -43,6 +48,27 @@ std::string Padded(const std::string& text, std::size_t length) {
     return text.substr(0, length) + std::string(length - std::min(length, text.size()), ' ');
 }
 
+// A slip as the service-call program books it: a key, one of the two teams, an hour or two
+// from a slot of the morning, a day within the 400 ahead, the customer and the problem.
+std::string Slip(int i) {
+    Record slip(workorders::kSlipRecord);
+    slip.SetText("ProjectNo", "SA" + std::to_string(1000 + i));
+    slip.SetText("Team", std::to_string(i % 2));
+    slip.SetText("Mode", "Hours");
+    slip.SetText("Time", std::to_string(1 + i % 2));
+    slip.SetText("Date", ShortDate(DateAdd("d", i % 400, DateTime::FromYmd(2026, 6, 1))));
+    slip.SetText("StartSlot", std::to_string(1 + i % 9));
+    slip.SetText("Milestone", "Service call " + std::to_string(i));
+    slip.SetText("Account", "C" + std::to_string(10001 + i % 1000));
+    slip.SetText("SiteName", "Account " + std::to_string(i % 1000));
+    slip.SetText("SiteAddress1", std::to_string(i % 90 + 1) + " Elm St");
+    slip.SetText("SiteCity", "Springfield");
+    slip.SetText("SiteState", "IL");
+    slip.SetText("SiteZip", "62701");
+    slip.SetText("SiteTelephone", Phone(i));
+    return slip.Bytes();
+}
+
 void BuildFolder(const fs::path& root) {
     fs::create_directories(root / "Backup");
     std::string customers, calls, slips;
@@ -55,18 +81,7 @@ void BuildFolder(const fs::path& root) {
     }
     for (int i = 1; i <= kOldCalls; ++i)
         calls += Padded("CALLER " + std::to_string(i), 15) + Phone(i * 7) + "09:15 am";
-    for (int i = 0; i < kSlips; ++i) {
-        std::string slip(297, ' ');
-        slip.replace(10, 6, "SA" + std::to_string(1000 + i));
-        slip.replace(20, 1, "0");
-        const DateTime day = DateAdd("d", i % 400, DateTime::FromYmd(2026, 6, 1));
-        const std::string date = ShortDate(day);
-        slip.replace(30, date.size(), date);
-        slip.replace(40, 1, std::to_string(1 + i % 9));
-        slip.replace(162, 12, "Account " + std::to_string(i % 1000));
-        slip.replace(284, 12, Phone(i));
-        slips += slip;
-    }
+    for (int i = 0; i < kSlips; ++i) slips += Slip(i);
     WriteFile(root / "CustomerData.txt", customers);
     WriteFile(root / "TelCall.txt", calls);
     WriteFile(root / "Slips.txt", slips);
@@ -75,15 +90,6 @@ void BuildFolder(const fs::path& root) {
     WriteFile(root / "MyBusinessData.txt",
               "\"Acme\",\"1 Main St\",\"\",\"Springfield\",\"IL\",\"62701\",\"217-555-0100\",\"\","
               "\"\"\r\n");
-}
-
-double Time(const std::function<void()>& action) {
-    return bench::Time(action);
-}
-
-bool Report(const char* action, double ms, double limit) {
-    std::printf("%s: %.1f ms\n", action, ms);
-    return ms < limit;
 }
 
 }  // namespace
@@ -100,7 +106,11 @@ int main() {
     ResetProgramState();
     RegisterScreens();
     SimulatedLines().PlaceModem(3);
-    Dispatch([] { Forms::Get("frmSetup").Load(); });
+    // The team list, as the start-up reads it: the reminder list names each slip's team.
+    Dispatch([] {
+        LoadAssignments();
+        Forms::Get("frmSetup").Load();
+    });
 
     auto& monitor = static_cast<frmCallID&>(Forms::Get(frmCallID::kName));
     bool ok = Report("open the call monitor", Time([&] { monitor.Show(); }), 100);
@@ -124,6 +134,14 @@ int main() {
     ok &= Report("open the reminder calls", Time([&] { reminders.Show(); }), 100);
     ok &= Report("reminder calls of the next year", Time([&] { reminders.cmdWeekly[5].Click(); }),
                  100);
+    // The figures count only when the list was filled: the slips of the year ahead.
+    const int listed = reminders.fgTomorrow.Rows() - 1;
+    std::printf("reminder calls listed: %d of %d slips\n", listed, kSlips);
+    ok &= listed > 0;
+    // A run-time failure ends the program at once and would leave the figures above empty.
+    for (const auto& box : backend.Boxes())
+        std::printf("message [%s] %s\n", box.title.c_str(), box.prompt.c_str());
+    ok &= !ProgramHasEnded();
 
     Forms::Reset();
     SetBackend(nullptr);
